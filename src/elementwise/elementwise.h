@@ -1,0 +1,204 @@
+// Element-wise kernels: dst(n)(i, j) = A(i, j) op B(i, j), each element one
+// operation in the element type, so every path below gives the same values and
+// the paths differ in speed only.
+#pragma once
+
+#include "../frame/views.h"
+#include "qelm/qelmtypes.h"
+
+#include <smmintrin.h>
+
+#include <type_traits>
+
+namespace qel {
+
+struct AddOp {
+  template <class T>
+  static T apply(T a, T b) { return a + b; }
+  static __m128 apply(__m128 a, __m128 b) { return _mm_add_ps(a, b); }
+};
+struct SubOp {
+  template <class T>
+  static T apply(T a, T b) { return a - b; }
+  static __m128 apply(__m128 a, __m128 b) { return _mm_sub_ps(a, b); }
+};
+
+// ------------------------------------------------ 32f rows held in SSE registers
+//
+// A contiguous Qel32f row of N elements is done as four-element units plus a
+// two- and a one-element remainder, so no byte outside the row is read or written.
+// Pitch16 fixes the row distance to 16 bytes (a packed array); AlignA marks
+// operand A's rows as 16-byte aligned, AlignAll every operand's.
+
+template <bool Aligned>
+inline __m128 load4(const float* p) { return Aligned ? _mm_load_ps(p) : _mm_loadu_ps(p); }
+template <bool Aligned>
+inline void store4(float* p, __m128 v) { Aligned ? _mm_store_ps(p, v) : _mm_storeu_ps(p, v); }
+inline __m128 load2(const float* p) {
+  return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p)));
+}
+inline void store2(float* p, __m128 v) { _mm_store_sd(reinterpret_cast<double*>(p), _mm_castps_pd(v)); }
+
+template <class Op, int N, bool AlignA, bool AlignAll>
+inline void rowSse(const float* a, const float* b, float* d) {
+  int j = 0;
+  for (; j + 4 <= N; j += 4)
+    store4<AlignAll>(d + j, Op::apply(load4<AlignA || AlignAll>(a + j), load4<AlignAll>(b + j)));
+  if constexpr (N % 4 >= 2) {
+    store2(d + j, Op::apply(load2(a + j), load2(b + j)));
+    j += 2;
+  }
+  if constexpr (N % 2 == 1)
+    _mm_store_ss(d + j, Op::apply(_mm_load_ss(a + j), _mm_load_ss(b + j)));
+}
+
+template <class Op, int N, int Pitch, bool AlignA, bool AlignAll, class A, class B, class D>
+void objectsSse(A a, B b, D d, int count) {
+  for (int n = 0; n < count; ++n) {
+    const auto ao = a.object(n);
+    const auto bo = b.object(n);
+    const auto dobj = d.object(n);
+    for (int i = 0; i < N; ++i) {
+      if constexpr (Pitch != 0)
+        rowSse<Op, N, AlignA, AlignAll>(byteAt(ao.base, i * Pitch), byteAt(bo.base, i * Pitch),
+                                        byteAt(dobj.base, i * Pitch));
+      else
+        rowSse<Op, N, AlignA, AlignAll>(ao.row(i), bo.row(i), dobj.row(i));
+    }
+  }
+}
+
+inline bool multipleOf16(const void* p) { return (reinterpret_cast<uintptr_t>(p) & 15) == 0; }
+inline bool multipleOf16(int32_t s) { return (s & 15) == 0; }
+
+// Alignment facts of a 32f contiguous call, taken from the first object: the
+// base pointers, the object distances of the array operands and the row
+// distances of every operand.
+struct Alignment {
+  bool pointers = true, firstStride0 = true, otherStride0 = true, rows = true;
+  int32_t rowOr = 0;
+};
+
+template <class V>
+inline void noteAlignment(Alignment& al, const V& v, bool first) {
+  const auto o = v.object(0);
+  al.pointers = al.pointers && multipleOf16(o.base);
+  al.rows = al.rows && multipleOf16(o.s1);
+  al.rowOr |= o.s1;
+  if constexpr (requires { v.s0; }) {
+    (first ? al.firstStride0 : al.otherStride0) = multipleOf16(v.s0);
+  }
+}
+
+// The unrolled sizes of the 32f contiguous kernels:
+//   3 by 3  packed rows at a pitch of 16, or the same sums at the real pitch;
+//   4 by 4  packed and aligned, aligned at the real pitch, or unaligned;
+//   5 by 5  unaligned, four elements and one per row;
+//   6 by 6  aligned loads of the first operand, or unaligned. The destination's
+//           object distance is not tested, so its later objects may be unaligned.
+template <class Op, int N, class A, class B, class D>
+void unrolledSse(A a, B b, D d, int count) {
+  Alignment al;
+  noteAlignment(al, a, true);
+  noteAlignment(al, b, false);
+  noteAlignment(al, d, false);
+  const bool allAligned = al.pointers && al.firstStride0 && al.otherStride0 && al.rows;
+  if constexpr (N == 3) {
+    if (allAligned && al.rowOr == 16) return objectsSse<Op, 3, 16, false, false>(a, b, d, count);
+    return objectsSse<Op, 3, 0, false, false>(a, b, d, count);
+  } else if constexpr (N == 4) {
+    if (allAligned && al.rowOr == 16) return objectsSse<Op, 4, 16, true, true>(a, b, d, count);
+    if (allAligned) return objectsSse<Op, 4, 0, true, true>(a, b, d, count);
+    return objectsSse<Op, 4, 0, false, false>(a, b, d, count);
+  } else if constexpr (N == 6) {
+    if (al.pointers && al.firstStride0 && al.rows)
+      return objectsSse<Op, 6, 0, true, false>(a, b, d, count);
+    return objectsSse<Op, 6, 0, false, false>(a, b, d, count);
+  } else {
+    return objectsSse<Op, N, 0, false, false>(a, b, d, count);
+  }
+}
+
+// ------------------------------------------------ generic forms
+
+template <class V>
+constexpr bool isContiguousF32Rows =
+    std::is_same_v<typename V::Object, Mat<const float, true>> ||
+    std::is_same_v<typename V::Object, Mat<float, true>>;
+
+// A single operand read once into a local block, before the object loop.
+template <class T, int N>
+struct HeldObject {
+  T e[N][N];
+  T at(int i, int j) const { return e[i][j]; }
+};
+template <class T, int N>
+struct HeldSingle {
+  HeldObject<T, N> held;
+  const HeldObject<T, N>& object(int) const { return held; }
+};
+template <int N, class V>
+auto holdIfSingle(const V& v) {
+  if constexpr (V::isArray) {
+    return v;
+  } else {
+    using T = typename V::Object::Elem;
+    HeldSingle<T, N> h;
+    const auto o = v.object(0);
+    for (int i = 0; i < N; ++i)
+      for (int j = 0; j < N; ++j) h.held.e[i][j] = o.at(i, j);
+    return h;
+  }
+}
+
+// A fixed size N by N, fully unrolled by the compiler. A row is formed whole
+// before it is stored, so an in-place call reads each element before it is written.
+template <class Op, int N, class A, class B, class D>
+void unrolledGeneric(A a, B b, D d, int count) {
+  using T = typename D::Object::Elem;
+  const auto ha = holdIfSingle<N>(a);
+  const auto hb = holdIfSingle<N>(b);
+  for (int n = 0; n < count; ++n) {
+    const auto& ao = ha.object(n);
+    const auto& bo = hb.object(n);
+    const auto dobj = d.object(n);
+    for (int i = 0; i < N; ++i) {
+      T row[N];
+      for (int j = 0; j < N; ++j) row[j] = Op::apply(T(ao.at(i, j)), T(bo.at(i, j)));
+      for (int j = 0; j < N; ++j) dobj.at(i, j) = row[j];
+    }
+  }
+}
+
+// The whole kernel: square sizes 3 to 6 unrolled, every other size a plain
+// loop with objects outermost, then rows, then elements.
+template <class Op, class A, class B, class D>
+QelStatus elementwise(A a, B b, D d, int width, int height, int count) {
+  if (width == height && width >= 3 && width <= 6) {
+    auto unrolled = [&](auto size) {
+      constexpr int N = decltype(size)::value;
+      if constexpr (isContiguousF32Rows<A> && isContiguousF32Rows<B> && isContiguousF32Rows<D>)
+        unrolledSse<Op, N>(a, b, d, count);
+      else
+        unrolledGeneric<Op, N>(a, b, d, count);
+    };
+    switch (width) {
+      case 3: unrolled(std::integral_constant<int, 3>{}); break;
+      case 4: unrolled(std::integral_constant<int, 4>{}); break;
+      case 5: unrolled(std::integral_constant<int, 5>{}); break;
+      default: unrolled(std::integral_constant<int, 6>{}); break;
+    }
+    return qelStatusOk;
+  }
+  using T = typename D::Object::Elem;
+  for (int n = 0; n < count; ++n) {
+    const auto ao = a.object(n);
+    const auto bo = b.object(n);
+    const auto dobj = d.object(n);
+    for (int i = 0; i < height; ++i)
+      for (int j = 0; j < width; ++j) dobj.at(i, j) = Op::apply(T(ao.at(i, j)), T(bo.at(i, j)));
+  }
+  return qelStatusOk;
+}
+
+}  // namespace qel
