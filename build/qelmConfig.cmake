@@ -1,3 +1,0 @@
-include(CMakeFindDependencyMacro)
-find_dependency(OpenMP)
-include(${CMAKE_CURRENT_LIST_DIR}/qelmTargets.cmake)
