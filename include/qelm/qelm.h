@@ -50,6 +50,12 @@ QelStatus qelmAdd_mam_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src
                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0,
                             int width, int height, int count);
 
+/* ---- Add and Sub over vectors and constants. */
+
+/* ---- Mul over two matrices: dst = op1(A) * op2(B). */
+
+/* ---- LUDecomp and LUBackSubst. */
+
 #ifdef __cplusplus
 }
 #endif
