@@ -1,16 +1,17 @@
-// Add and Sub over matrices: the front-end and the exports.
+// Add and Sub over matrices: one front-end, one kernel, and the export table.
 #include "../frame/export.h"
 #include "elementwise.h"
+#include "operands.h"
 
 namespace {
 using namespace qel;
 
-enum class Layout { Standard, List, Pointer };
+enum class Layout { S, L, P };
 
 // Serial below 3000 only for the 32f standard contiguous kernels; 2000 elsewhere.
 template <class T, Layout L>
 WorkLimit contiguousLimit() {
-  return WorkLimit::serialBelow(std::is_same_v<T, Qel32f> && L == Layout::Standard ? 3000 : 2000);
+  return WorkLimit::serialBelow(std::is_same_v<T, Qel32f> && L == Layout::S ? 3000 : 2000);
 }
 
 // Front-end of the first kind for every array shape: checks in `order`, the
@@ -22,56 +23,91 @@ QelStatus matrixArrayFront(const char* order, A a, B b, D d, int width, int heig
                                             : Work(width) * height * (Work(2) * count + 1);
   auto job = makeJob(
       [width, height](int share, void*, auto va, auto vb, auto vd) {
-        return elementwise<Op>(va, vb, vd, width, height, share);
+        return elementwise<Op, 0>(va, vb, vd, width, height, share);
       },
       a, b, d);
   return runFirstKind(job, count, w, contiguousLimit<T, L>(), WorkLimit::serialBelow(2000));
 }
 
-template <class T>
-StridedArray<const T> arrayS(const T* p, int s0, int s1, int s2) { return {p, s0, s1, s2}; }
-template <class T>
-StridedArray<T> arrayS(T* p, int s0, int s1, int s2) { return {p, s0, s1, s2}; }
-template <class T>
-ListArray<T> arrayL(T* const* p, int shift, int s1, int s2) { return {p, shift, s1, s2}; }
-template <class T>
-PointerArray<T> arrayP(T* const* p, int shift, int s0, int rowLen) { return {p, shift, s0, rowLen}; }
-template <class T>
-Single<Mat<const T>> single(const T* p, int s1, int s2) { return {{p, s1, s2}}; }
-template <class T>
-Single<MatP<T>> singleP(T* const* p, int shift, int rowLen) { return {{p, shift, rowLen}}; }
+// Shapes without count: the kernel pair on one object, never a driver.
+template <class Op, class A, class B, class D>
+QelStatus matrixSingleFront(const char* order, A a, B b, D d, int width, int height) {
+  if (QelStatus st = firstFailure(order, checkViews(1, {width, height}, a, b, d))) return st;
+  auto job = makeJob(
+      [width, height](int, void*, auto va, auto vb, auto vd) {
+        return elementwise<Op, 0>(va, vb, vd, width, height, 1);
+      },
+      a, b, d);
+  return runSerial(job, 1);
+}
 
 }  // namespace
 
-#define QEL_ADD_MAM(T, F)                                                                        \
-  QELM_API QelStatus qelmAdd_mam_##F(const T* src1, int src1Stride0, int src1Stride1,           \
-                                     int src1Stride2, const T* src2, int src2Stride1,          \
-                                     int src2Stride2, T* dst, int dstStride0, int dstStride1,  \
-                                     int dstStride2, int width, int height, int count) {       \
-    return matrixArrayFront<AddOp, T, Layout::Standard>(                                         \
-        "NCSZ", arrayS(src1, src1Stride0, src1Stride1, src1Stride2),                             \
-        single(src2, src2Stride1, src2Stride2), arrayS(dst, dstStride0, dstStride1, dstStride2), \
+// One export: OP, shape, element type, layout, check order, then operand A and
+// B as (kind, reading).
+#define QEL_EW_ARRAY(OP, SHAPE, T, F, SUFFIX, LAY, ORDER, KA, RA, KB, RB)                          \
+  QELM_API QelStatus qelm##OP##_##SHAPE##_##F##SUFFIX(QEL_P_##KA##_##LAY(T, src1),               \
+                                                      QEL_P_##KB##_##LAY(T, src2),               \
+                                                      QEL_D_ARR_##LAY(T), int width, int height, \
+                                                      int count) {                               \
+    return matrixArrayFront<OP##Op, T, Layout::LAY>(                                             \
+        ORDER, QEL_READ_##RA(QEL_V_##KA##_##LAY(src1, QEL_ROWLEN_##RA)),                         \
+        QEL_READ_##RB(QEL_V_##KB##_##LAY(src2, QEL_ROWLEN_##RB)), QEL_V_ARR_##LAY(dst, width),   \
         width, height, count);                                                                   \
-  }                                                                                              \
-  QELM_API QelStatus qelmAdd_mam_##F##_L(const T* const* src1, int src1RoiShift, int src1Stride1, \
-                                         int src1Stride2, const T* src2, int src2Stride1,       \
-                                         int src2Stride2, T* const* dst, int dstRoiShift,       \
-                                         int dstStride1, int dstStride2, int width, int height, \
-                                         int count) {                                           \
-    return matrixArrayFront<AddOp, T, Layout::List>(                                             \
-        "NCZSR", arrayL(src1, src1RoiShift, src1Stride1, src1Stride2),                           \
-        single(src2, src2Stride1, src2Stride2), arrayL(dst, dstRoiShift, dstStride1, dstStride2), \
-        width, height, count);                                                                   \
-  }                                                                                              \
-  QELM_API QelStatus qelmAdd_mam_##F##_P(const T* const* src1, int src1RoiShift, int src1Stride0, \
-                                         const T* const* src2, int src2RoiShift, T* const* dst, \
-                                         int dstRoiShift, int dstStride0, int width, int height, \
-                                         int count) {                                           \
-    return matrixArrayFront<AddOp, T, Layout::Pointer>(                                          \
-        "NCZSR", arrayP(src1, src1RoiShift, src1Stride0, width),                                 \
-        singleP(src2, src2RoiShift, width), arrayP(dst, dstRoiShift, dstStride0, width), width,  \
-        height, count);                                                                          \
   }
 
-QEL_ADD_MAM(Qel32f, 32f)
-QEL_ADD_MAM(Qel64f, 64f)
+#define QEL_EW_ONE(OP, SHAPE, T, F, SUFFIX, LAY, ORDER, RA, RB)                                    \
+  QELM_API QelStatus qelm##OP##_##SHAPE##_##F##SUFFIX(QEL_P_ONE_##LAY(T, src1),                  \
+                                                      QEL_P_ONE_##LAY(T, src2),                  \
+                                                      QEL_D_ONE_##LAY(T), int width, int height) { \
+    return matrixSingleFront<OP##Op>(ORDER,                                                      \
+                                     QEL_READ_##RA(QEL_V_ONE_##LAY(src1, QEL_ROWLEN_##RA)),      \
+                                     QEL_READ_##RB(QEL_V_ONE_##LAY(src2, QEL_ROWLEN_##RB)),      \
+                                     QEL_V_ONE_##LAY(dst, width), width, height);                \
+  }
+
+// Every type and layout of one shape. ORDER is the standard layout's order;
+// _L and _P check N C Z S R.
+#define QEL_EW_ARRAY_SHAPE(OP, SHAPE, ORDER, KA, RA, KB, RB)                   \
+  QEL_EW_ARRAY(OP, SHAPE, Qel32f, 32f, , S, ORDER, KA, RA, KB, RB)             \
+  QEL_EW_ARRAY(OP, SHAPE, Qel32f, 32f, _L, L, "NCZSR", KA, RA, KB, RB)         \
+  QEL_EW_ARRAY(OP, SHAPE, Qel32f, 32f, _P, P, "NCZSR", KA, RA, KB, RB)         \
+  QEL_EW_ARRAY(OP, SHAPE, Qel64f, 64f, , S, ORDER, KA, RA, KB, RB)             \
+  QEL_EW_ARRAY(OP, SHAPE, Qel64f, 64f, _L, L, "NCZSR", KA, RA, KB, RB)         \
+  QEL_EW_ARRAY(OP, SHAPE, Qel64f, 64f, _P, P, "NCZSR", KA, RA, KB, RB)
+
+#define QEL_EW_ONE_SHAPE(OP, SHAPE, RA, RB)                   \
+  QEL_EW_ONE(OP, SHAPE, Qel32f, 32f, , S, "NZS", RA, RB)      \
+  QEL_EW_ONE(OP, SHAPE, Qel32f, 32f, _P, P, "NZR", RA, RB)    \
+  QEL_EW_ONE(OP, SHAPE, Qel64f, 64f, , S, "NZS", RA, RB)      \
+  QEL_EW_ONE(OP, SHAPE, Qel64f, 64f, _P, P, "NZR", RA, RB)
+
+// Add commutes, so it has fewer shapes than Sub. mam (and Sub's mma) test the
+// strides before the sizes in the standard layout.
+QEL_EW_ONE_SHAPE(Add, mm, m, m)
+QEL_EW_ONE_SHAPE(Add, tm, t, m)
+QEL_EW_ONE_SHAPE(Add, tt, t, t)
+QEL_EW_ARRAY_SHAPE(Add, mam, "NCSZ", ARR, m, ONE, m)
+QEL_EW_ARRAY_SHAPE(Add, mat, "NCZS", ARR, m, ONE, t)
+QEL_EW_ARRAY_SHAPE(Add, tam, "NCZS", ARR, t, ONE, m)
+QEL_EW_ARRAY_SHAPE(Add, tat, "NCZS", ARR, t, ONE, t)
+QEL_EW_ARRAY_SHAPE(Add, mama, "NCZS", ARR, m, ARR, m)
+QEL_EW_ARRAY_SHAPE(Add, tama, "NCZS", ARR, t, ARR, m)
+QEL_EW_ARRAY_SHAPE(Add, tata, "NCZS", ARR, t, ARR, t)
+
+QEL_EW_ONE_SHAPE(Sub, mm, m, m)
+QEL_EW_ONE_SHAPE(Sub, mt, m, t)
+QEL_EW_ONE_SHAPE(Sub, tm, t, m)
+QEL_EW_ONE_SHAPE(Sub, tt, t, t)
+QEL_EW_ARRAY_SHAPE(Sub, mam, "NCSZ", ARR, m, ONE, m)
+QEL_EW_ARRAY_SHAPE(Sub, mat, "NCZS", ARR, m, ONE, t)
+QEL_EW_ARRAY_SHAPE(Sub, tam, "NCZS", ARR, t, ONE, m)
+QEL_EW_ARRAY_SHAPE(Sub, tat, "NCZS", ARR, t, ONE, t)
+QEL_EW_ARRAY_SHAPE(Sub, mma, "NCSZ", ONE, m, ARR, m)
+QEL_EW_ARRAY_SHAPE(Sub, mta, "NCZS", ONE, m, ARR, t)
+QEL_EW_ARRAY_SHAPE(Sub, tma, "NCZS", ONE, t, ARR, m)
+QEL_EW_ARRAY_SHAPE(Sub, tta, "NCZS", ONE, t, ARR, t)
+QEL_EW_ARRAY_SHAPE(Sub, mama, "NCZS", ARR, m, ARR, m)
+QEL_EW_ARRAY_SHAPE(Sub, mata, "NCZS", ARR, m, ARR, t)
+QEL_EW_ARRAY_SHAPE(Sub, tama, "NCZS", ARR, t, ARR, m)
+QEL_EW_ARRAY_SHAPE(Sub, tata, "NCZS", ARR, t, ARR, t)

@@ -52,13 +52,13 @@ inline void rowSse(const float* a, const float* b, float* d) {
     _mm_store_ss(d + j, Op::apply(_mm_load_ss(a + j), _mm_load_ss(b + j)));
 }
 
-template <class Op, int N, int Pitch, bool AlignA, bool AlignAll, class A, class B, class D>
+template <class Op, int R, int N, int Pitch, bool AlignA, bool AlignAll, class A, class B, class D>
 void objectsSse(A a, B b, D d, int count) {
   for (int n = 0; n < count; ++n) {
     const auto ao = a.object(n);
     const auto bo = b.object(n);
     const auto dobj = d.object(n);
-    for (int i = 0; i < N; ++i) {
+    for (int i = 0; i < R; ++i) {
       if constexpr (Pitch != 0)
         rowSse<Op, N, AlignA, AlignAll>(byteAt(ao.base, i * Pitch), byteAt(bo.base, i * Pitch),
                                         byteAt(dobj.base, i * Pitch));
@@ -90,32 +90,38 @@ inline void noteAlignment(Alignment& al, const V& v, bool first) {
   }
 }
 
-// The unrolled sizes of the 32f contiguous kernels:
+// The unrolled sizes of the 32f contiguous kernels. A vector of 3 to 6
+// elements takes aligned units when every base and object distance is a
+// multiple of 16. A square matrix:
 //   3 by 3  packed rows at a pitch of 16, or the same sums at the real pitch;
 //   4 by 4  packed and aligned, aligned at the real pitch, or unaligned;
 //   5 by 5  unaligned, four elements and one per row;
 //   6 by 6  aligned loads of the first operand, or unaligned. The destination's
 //           object distance is not tested, so its later objects may be unaligned.
-template <class Op, int N, class A, class B, class D>
+template <class Op, int R, int N, class A, class B, class D>
 void unrolledSse(A a, B b, D d, int count) {
   Alignment al;
   noteAlignment(al, a, true);
   noteAlignment(al, b, false);
   noteAlignment(al, d, false);
   const bool allAligned = al.pointers && al.firstStride0 && al.otherStride0 && al.rows;
-  if constexpr (N == 3) {
-    if (allAligned && al.rowOr == 16) return objectsSse<Op, 3, 16, false, false>(a, b, d, count);
-    return objectsSse<Op, 3, 0, false, false>(a, b, d, count);
+  if constexpr (R == 1) {
+    if (al.pointers && al.firstStride0 && al.otherStride0)
+      return objectsSse<Op, 1, N, 0, true, true>(a, b, d, count);
+    return objectsSse<Op, 1, N, 0, false, false>(a, b, d, count);
+  } else if constexpr (N == 3) {
+    if (allAligned && al.rowOr == 16) return objectsSse<Op, 3, 3, 16, false, false>(a, b, d, count);
+    return objectsSse<Op, 3, 3, 0, false, false>(a, b, d, count);
   } else if constexpr (N == 4) {
-    if (allAligned && al.rowOr == 16) return objectsSse<Op, 4, 16, true, true>(a, b, d, count);
-    if (allAligned) return objectsSse<Op, 4, 0, true, true>(a, b, d, count);
-    return objectsSse<Op, 4, 0, false, false>(a, b, d, count);
+    if (allAligned && al.rowOr == 16) return objectsSse<Op, 4, 4, 16, true, true>(a, b, d, count);
+    if (allAligned) return objectsSse<Op, 4, 4, 0, true, true>(a, b, d, count);
+    return objectsSse<Op, 4, 4, 0, false, false>(a, b, d, count);
   } else if constexpr (N == 6) {
     if (al.pointers && al.firstStride0 && al.rows)
-      return objectsSse<Op, 6, 0, true, false>(a, b, d, count);
-    return objectsSse<Op, 6, 0, false, false>(a, b, d, count);
+      return objectsSse<Op, 6, 6, 0, true, false>(a, b, d, count);
+    return objectsSse<Op, 6, 6, 0, false, false>(a, b, d, count);
   } else {
-    return objectsSse<Op, N, 0, false, false>(a, b, d, count);
+    return objectsSse<Op, N, N, 0, false, false>(a, b, d, count);
   }
 }
 
@@ -127,25 +133,25 @@ constexpr bool isContiguousF32Rows =
     std::is_same_v<typename V::Object, Mat<float, true>>;
 
 // A single operand read once into a local block, before the object loop.
-template <class T, int N>
+template <class T, int R, int N>
 struct HeldObject {
-  T e[N][N];
+  T e[R][N];
   T at(int i, int j) const { return e[i][j]; }
 };
-template <class T, int N>
+template <class T, int R, int N>
 struct HeldSingle {
-  HeldObject<T, N> held;
-  const HeldObject<T, N>& object(int) const { return held; }
+  HeldObject<T, R, N> held;
+  const HeldObject<T, R, N>& object(int) const { return held; }
 };
-template <int N, class V>
+template <int R, int N, class V>
 auto holdIfSingle(const V& v) {
   if constexpr (V::isArray) {
     return v;
   } else {
     using T = typename V::Object::Elem;
-    HeldSingle<T, N> h;
+    HeldSingle<T, R, N> h;
     const auto o = v.object(0);
-    for (int i = 0; i < N; ++i)
+    for (int i = 0; i < R; ++i)
       for (int j = 0; j < N; ++j) h.held.e[i][j] = o.at(i, j);
     return h;
   }
@@ -153,16 +159,16 @@ auto holdIfSingle(const V& v) {
 
 // A fixed size N by N, fully unrolled by the compiler. A row is formed whole
 // before it is stored, so an in-place call reads each element before it is written.
-template <class Op, int N, class A, class B, class D>
+template <class Op, int R, int N, class A, class B, class D>
 void unrolledGeneric(A a, B b, D d, int count) {
   using T = typename D::Object::Elem;
-  const auto ha = holdIfSingle<N>(a);
-  const auto hb = holdIfSingle<N>(b);
+  const auto ha = holdIfSingle<R, N>(a);
+  const auto hb = holdIfSingle<R, N>(b);
   for (int n = 0; n < count; ++n) {
     const auto& ao = ha.object(n);
     const auto& bo = hb.object(n);
     const auto dobj = d.object(n);
-    for (int i = 0; i < N; ++i) {
+    for (int i = 0; i < R; ++i) {
       T row[N];
       for (int j = 0; j < N; ++j) row[j] = Op::apply(T(ao.at(i, j)), T(bo.at(i, j)));
       for (int j = 0; j < N; ++j) dobj.at(i, j) = row[j];
@@ -170,17 +176,19 @@ void unrolledGeneric(A a, B b, D d, int count) {
   }
 }
 
-// The whole kernel: square sizes 3 to 6 unrolled, every other size a plain
-// loop with objects outermost, then rows, then elements.
-template <class Op, class A, class B, class D>
+// The whole kernel over arrays. Square matrices of 3 to 6 (Rows = 0: height
+// equal to width) or vectors of 3 to 6 elements (Rows = 1) are unrolled; every
+// other size is a plain loop with objects outermost, then rows, then elements.
+template <class Op, int Rows, class A, class B, class D>
 QelStatus elementwise(A a, B b, D d, int width, int height, int count) {
-  if (width == height && width >= 3 && width <= 6) {
+  if ((Rows == 1 || width == height) && width >= 3 && width <= 6) {
     auto unrolled = [&](auto size) {
       constexpr int N = decltype(size)::value;
+      constexpr int R = Rows == 1 ? 1 : N;
       if constexpr (isContiguousF32Rows<A> && isContiguousF32Rows<B> && isContiguousF32Rows<D>)
-        unrolledSse<Op, N>(a, b, d, count);
+        unrolledSse<Op, R, N>(a, b, d, count);
       else
-        unrolledGeneric<Op, N>(a, b, d, count);
+        unrolledGeneric<Op, R, N>(a, b, d, count);
     };
     switch (width) {
       case 3: unrolled(std::integral_constant<int, 3>{}); break;
