@@ -56,6 +56,88 @@ QelStatus qelmAdd_mam_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src
 
 /* ---- LUDecomp and LUBackSubst. */
 
+/* LUDecomp: Gaussian elimination with partial pivoting on the index array alone.
+ * Rows never move: row dstIndex[k] of dst holds row k of the factors, the
+ * multipliers of the unit lower triangle left of the diagonal and the upper
+ * triangle from the diagonal on. dstIndex holds `size` entries per matrix
+ * (dstIndex + n*size for matrix n of an array). A singular pivot answers
+ * qelStatusSingular; an array stops at its first singular matrix. */
+QelStatus qelmLUDecomp_m_32f(const Qel32f* src, int srcStride1, int srcStride2, Qel32s* dstIndex,
+                             Qel32f* dst, int dstStride1, int dstStride2, int size);
+QelStatus qelmLUDecomp_m_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32s* dstIndex,
+                               QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int size);
+QelStatus qelmLUDecomp_ma_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2,
+                              Qel32s* dstIndex, Qel32f* dst, int dstStride0, int dstStride1, int dstStride2,
+                              int size, int count);
+QelStatus qelmLUDecomp_ma_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                                Qel32s* dstIndex, QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1,
+                                int dstStride2, int size, int count);
+QelStatus qelmLUDecomp_ma_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, Qel32s* dstIndex,
+                                QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int size, int count);
+QelStatus qelmLUDecomp_m_64f(const Qel64f* src, int srcStride1, int srcStride2, Qel32s* dstIndex,
+                             Qel64f* dst, int dstStride1, int dstStride2, int size);
+QelStatus qelmLUDecomp_m_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, Qel32s* dstIndex,
+                               QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int size);
+QelStatus qelmLUDecomp_ma_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2,
+                              Qel32s* dstIndex, Qel64f* dst, int dstStride0, int dstStride1, int dstStride2,
+                              int size, int count);
+QelStatus qelmLUDecomp_ma_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                                Qel32s* dstIndex, QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1,
+                                int dstStride2, int size, int count);
+QelStatus qelmLUDecomp_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, Qel32s* dstIndex,
+                                QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int size, int count);
+
+/* LUBackSubst: solves A x = b from the factors and index of LUDecomp; b (src2)
+ * and x (dst) in natural order. mv: one system; mva: one matrix, `count`
+ * right-hand sides sharing srcIndex; mava: `count` matrices, each with its own
+ * `size` index entries and right-hand side. No numerical check is made. */
+QelStatus qelmLUBackSubst_mv_32f(const Qel32f* src, int srcStride1, int srcStride2, const Qel32s* srcIndex,
+                                 const Qel32f* src2, int src2Stride2, Qel32f* dst, int dstStride2, int size);
+QelStatus qelmLUBackSubst_mv_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, const Qel32s* srcIndex,
+                                   QEL_SRC_LIST(Qel32f) src2, int src2RoiShift,
+                                   QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int size);
+QelStatus qelmLUBackSubst_mva_32f(const Qel32f* src, int srcStride1, int srcStride2, const Qel32s* srcIndex,
+                                  const Qel32f* src2, int src2Stride0, int src2Stride2,
+                                  Qel32f* dst, int dstStride0, int dstStride2, int size, int count);
+QelStatus qelmLUBackSubst_mva_32f_L(const Qel32f* src, int srcStride1, int srcStride2, const Qel32s* srcIndex,
+                                    QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride2,
+                                    QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int size, int count);
+QelStatus qelmLUBackSubst_mva_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, const Qel32s* srcIndex,
+                                    QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0,
+                                    QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int size, int count);
+QelStatus qelmLUBackSubst_mava_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2,
+                                   const Qel32s* srcIndex, const Qel32f* src2, int src2Stride0, int src2Stride2,
+                                   Qel32f* dst, int dstStride0, int dstStride2, int size, int count);
+QelStatus qelmLUBackSubst_mava_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                                     const Qel32s* srcIndex, QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride2,
+                                     QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int size, int count);
+QelStatus qelmLUBackSubst_mava_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, const Qel32s* srcIndex,
+                                     QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0,
+                                     QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int size, int count);
+QelStatus qelmLUBackSubst_mv_64f(const Qel64f* src, int srcStride1, int srcStride2, const Qel32s* srcIndex,
+                                 const Qel64f* src2, int src2Stride2, Qel64f* dst, int dstStride2, int size);
+QelStatus qelmLUBackSubst_mv_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, const Qel32s* srcIndex,
+                                   QEL_SRC_LIST(Qel64f) src2, int src2RoiShift,
+                                   QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int size);
+QelStatus qelmLUBackSubst_mva_64f(const Qel64f* src, int srcStride1, int srcStride2, const Qel32s* srcIndex,
+                                  const Qel64f* src2, int src2Stride0, int src2Stride2,
+                                  Qel64f* dst, int dstStride0, int dstStride2, int size, int count);
+QelStatus qelmLUBackSubst_mva_64f_L(const Qel64f* src, int srcStride1, int srcStride2, const Qel32s* srcIndex,
+                                    QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride2,
+                                    QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int size, int count);
+QelStatus qelmLUBackSubst_mva_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, const Qel32s* srcIndex,
+                                    QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0,
+                                    QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int size, int count);
+QelStatus qelmLUBackSubst_mava_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2,
+                                   const Qel32s* srcIndex, const Qel64f* src2, int src2Stride0, int src2Stride2,
+                                   Qel64f* dst, int dstStride0, int dstStride2, int size, int count);
+QelStatus qelmLUBackSubst_mava_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                                     const Qel32s* srcIndex, QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride2,
+                                     QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int size, int count);
+QelStatus qelmLUBackSubst_mava_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, const Qel32s* srcIndex,
+                                     QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0,
+                                     QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int size, int count);
+
 #ifdef __cplusplus
 }
 #endif
