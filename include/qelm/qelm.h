@@ -25,34 +25,812 @@ const QelLibraryVersion* qelmGetLibVersion(void);
  * width and height are those of the result; a transposed operand (t, ta) is
  * stored with width rows and height columns. */
 
+QelStatus qelmAdd_mm_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, const Qel32f* src2,
+                         int src2Stride1, int src2Stride2, Qel32f* dst, int dstStride1,
+                         int dstStride2, int width, int height);
+QelStatus qelmAdd_mm_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, QEL_SRC_LIST(Qel32f) src2,
+                           int src2RoiShift, QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int width,
+                           int height);
+QelStatus qelmAdd_mm_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, const Qel64f* src2,
+                         int src2Stride1, int src2Stride2, Qel64f* dst, int dstStride1,
+                         int dstStride2, int width, int height);
+QelStatus qelmAdd_mm_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, QEL_SRC_LIST(Qel64f) src2,
+                           int src2RoiShift, QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int width,
+                           int height);
+QelStatus qelmAdd_tm_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, const Qel32f* src2,
+                         int src2Stride1, int src2Stride2, Qel32f* dst, int dstStride1,
+                         int dstStride2, int width, int height);
+QelStatus qelmAdd_tm_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, QEL_SRC_LIST(Qel32f) src2,
+                           int src2RoiShift, QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int width,
+                           int height);
+QelStatus qelmAdd_tm_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, const Qel64f* src2,
+                         int src2Stride1, int src2Stride2, Qel64f* dst, int dstStride1,
+                         int dstStride2, int width, int height);
+QelStatus qelmAdd_tm_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, QEL_SRC_LIST(Qel64f) src2,
+                           int src2RoiShift, QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int width,
+                           int height);
+QelStatus qelmAdd_tt_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, const Qel32f* src2,
+                         int src2Stride1, int src2Stride2, Qel32f* dst, int dstStride1,
+                         int dstStride2, int width, int height);
+QelStatus qelmAdd_tt_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, QEL_SRC_LIST(Qel32f) src2,
+                           int src2RoiShift, QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int width,
+                           int height);
+QelStatus qelmAdd_tt_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, const Qel64f* src2,
+                         int src2Stride1, int src2Stride2, Qel64f* dst, int dstStride1,
+                         int dstStride2, int width, int height);
+QelStatus qelmAdd_tt_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, QEL_SRC_LIST(Qel64f) src2,
+                           int src2RoiShift, QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int width,
+                           int height);
 QelStatus qelmAdd_mam_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
-                          const Qel32f* src2, int src2Stride1, int src2Stride2,
-                          Qel32f* dst, int dstStride0, int dstStride1, int dstStride2,
-                          int width, int height, int count);
-QelStatus qelmAdd_mam_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1, int src1Stride2,
-                            const Qel32f* src2, int src2Stride1, int src2Stride2,
-                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1, int dstStride2,
-                            int width, int height, int count);
+                          const Qel32f* src2, int src2Stride1, int src2Stride2, Qel32f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmAdd_mam_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1,
+                            int src1Stride2, const Qel32f* src2, int src2Stride1, int src2Stride2,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1,
+                            int dstStride2, int width, int height, int count);
 QelStatus qelmAdd_mam_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
-                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift,
-                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0,
-                            int width, int height, int count);
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, QEL_DST_LIST(Qel32f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
 QelStatus qelmAdd_mam_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
-                          const Qel64f* src2, int src2Stride1, int src2Stride2,
-                          Qel64f* dst, int dstStride0, int dstStride1, int dstStride2,
-                          int width, int height, int count);
-QelStatus qelmAdd_mam_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1, int src1Stride2,
-                            const Qel64f* src2, int src2Stride1, int src2Stride2,
-                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1, int dstStride2,
-                            int width, int height, int count);
+                          const Qel64f* src2, int src2Stride1, int src2Stride2, Qel64f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmAdd_mam_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1,
+                            int src1Stride2, const Qel64f* src2, int src2Stride1, int src2Stride2,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1,
+                            int dstStride2, int width, int height, int count);
 QelStatus qelmAdd_mam_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
-                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift,
-                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0,
-                            int width, int height, int count);
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, QEL_DST_LIST(Qel64f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmAdd_mat_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                          const Qel32f* src2, int src2Stride1, int src2Stride2, Qel32f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmAdd_mat_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1,
+                            int src1Stride2, const Qel32f* src2, int src2Stride1, int src2Stride2,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1,
+                            int dstStride2, int width, int height, int count);
+QelStatus qelmAdd_mat_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, QEL_DST_LIST(Qel32f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmAdd_mat_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                          const Qel64f* src2, int src2Stride1, int src2Stride2, Qel64f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmAdd_mat_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1,
+                            int src1Stride2, const Qel64f* src2, int src2Stride1, int src2Stride2,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1,
+                            int dstStride2, int width, int height, int count);
+QelStatus qelmAdd_mat_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, QEL_DST_LIST(Qel64f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmAdd_tam_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                          const Qel32f* src2, int src2Stride1, int src2Stride2, Qel32f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmAdd_tam_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1,
+                            int src1Stride2, const Qel32f* src2, int src2Stride1, int src2Stride2,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1,
+                            int dstStride2, int width, int height, int count);
+QelStatus qelmAdd_tam_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, QEL_DST_LIST(Qel32f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmAdd_tam_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                          const Qel64f* src2, int src2Stride1, int src2Stride2, Qel64f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmAdd_tam_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1,
+                            int src1Stride2, const Qel64f* src2, int src2Stride1, int src2Stride2,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1,
+                            int dstStride2, int width, int height, int count);
+QelStatus qelmAdd_tam_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, QEL_DST_LIST(Qel64f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmAdd_tat_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                          const Qel32f* src2, int src2Stride1, int src2Stride2, Qel32f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmAdd_tat_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1,
+                            int src1Stride2, const Qel32f* src2, int src2Stride1, int src2Stride2,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1,
+                            int dstStride2, int width, int height, int count);
+QelStatus qelmAdd_tat_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, QEL_DST_LIST(Qel32f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmAdd_tat_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                          const Qel64f* src2, int src2Stride1, int src2Stride2, Qel64f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmAdd_tat_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1,
+                            int src1Stride2, const Qel64f* src2, int src2Stride1, int src2Stride2,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1,
+                            int dstStride2, int width, int height, int count);
+QelStatus qelmAdd_tat_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, QEL_DST_LIST(Qel64f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmAdd_mama_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                           const Qel32f* src2, int src2Stride0, int src2Stride1, int src2Stride2,
+                           Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int width,
+                           int height, int count);
+QelStatus qelmAdd_mama_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1,
+                             int src1Stride2, QEL_SRC_LIST(Qel32f) src2, int src2RoiShift,
+                             int src2Stride1, int src2Stride2, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int dstStride1, int dstStride2, int width,
+                             int height, int count);
+QelStatus qelmAdd_mama_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmAdd_mama_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                           const Qel64f* src2, int src2Stride0, int src2Stride1, int src2Stride2,
+                           Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int width,
+                           int height, int count);
+QelStatus qelmAdd_mama_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1,
+                             int src1Stride2, QEL_SRC_LIST(Qel64f) src2, int src2RoiShift,
+                             int src2Stride1, int src2Stride2, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int dstStride1, int dstStride2, int width,
+                             int height, int count);
+QelStatus qelmAdd_mama_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmAdd_tama_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                           const Qel32f* src2, int src2Stride0, int src2Stride1, int src2Stride2,
+                           Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int width,
+                           int height, int count);
+QelStatus qelmAdd_tama_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1,
+                             int src1Stride2, QEL_SRC_LIST(Qel32f) src2, int src2RoiShift,
+                             int src2Stride1, int src2Stride2, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int dstStride1, int dstStride2, int width,
+                             int height, int count);
+QelStatus qelmAdd_tama_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmAdd_tama_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                           const Qel64f* src2, int src2Stride0, int src2Stride1, int src2Stride2,
+                           Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int width,
+                           int height, int count);
+QelStatus qelmAdd_tama_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1,
+                             int src1Stride2, QEL_SRC_LIST(Qel64f) src2, int src2RoiShift,
+                             int src2Stride1, int src2Stride2, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int dstStride1, int dstStride2, int width,
+                             int height, int count);
+QelStatus qelmAdd_tama_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmAdd_tata_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                           const Qel32f* src2, int src2Stride0, int src2Stride1, int src2Stride2,
+                           Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int width,
+                           int height, int count);
+QelStatus qelmAdd_tata_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1,
+                             int src1Stride2, QEL_SRC_LIST(Qel32f) src2, int src2RoiShift,
+                             int src2Stride1, int src2Stride2, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int dstStride1, int dstStride2, int width,
+                             int height, int count);
+QelStatus qelmAdd_tata_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmAdd_tata_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                           const Qel64f* src2, int src2Stride0, int src2Stride1, int src2Stride2,
+                           Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int width,
+                           int height, int count);
+QelStatus qelmAdd_tata_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1,
+                             int src1Stride2, QEL_SRC_LIST(Qel64f) src2, int src2RoiShift,
+                             int src2Stride1, int src2Stride2, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int dstStride1, int dstStride2, int width,
+                             int height, int count);
+QelStatus qelmAdd_tata_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmSub_mm_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, const Qel32f* src2,
+                         int src2Stride1, int src2Stride2, Qel32f* dst, int dstStride1,
+                         int dstStride2, int width, int height);
+QelStatus qelmSub_mm_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, QEL_SRC_LIST(Qel32f) src2,
+                           int src2RoiShift, QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int width,
+                           int height);
+QelStatus qelmSub_mm_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, const Qel64f* src2,
+                         int src2Stride1, int src2Stride2, Qel64f* dst, int dstStride1,
+                         int dstStride2, int width, int height);
+QelStatus qelmSub_mm_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, QEL_SRC_LIST(Qel64f) src2,
+                           int src2RoiShift, QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int width,
+                           int height);
+QelStatus qelmSub_mt_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, const Qel32f* src2,
+                         int src2Stride1, int src2Stride2, Qel32f* dst, int dstStride1,
+                         int dstStride2, int width, int height);
+QelStatus qelmSub_mt_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, QEL_SRC_LIST(Qel32f) src2,
+                           int src2RoiShift, QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int width,
+                           int height);
+QelStatus qelmSub_mt_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, const Qel64f* src2,
+                         int src2Stride1, int src2Stride2, Qel64f* dst, int dstStride1,
+                         int dstStride2, int width, int height);
+QelStatus qelmSub_mt_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, QEL_SRC_LIST(Qel64f) src2,
+                           int src2RoiShift, QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int width,
+                           int height);
+QelStatus qelmSub_tm_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, const Qel32f* src2,
+                         int src2Stride1, int src2Stride2, Qel32f* dst, int dstStride1,
+                         int dstStride2, int width, int height);
+QelStatus qelmSub_tm_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, QEL_SRC_LIST(Qel32f) src2,
+                           int src2RoiShift, QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int width,
+                           int height);
+QelStatus qelmSub_tm_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, const Qel64f* src2,
+                         int src2Stride1, int src2Stride2, Qel64f* dst, int dstStride1,
+                         int dstStride2, int width, int height);
+QelStatus qelmSub_tm_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, QEL_SRC_LIST(Qel64f) src2,
+                           int src2RoiShift, QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int width,
+                           int height);
+QelStatus qelmSub_tt_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, const Qel32f* src2,
+                         int src2Stride1, int src2Stride2, Qel32f* dst, int dstStride1,
+                         int dstStride2, int width, int height);
+QelStatus qelmSub_tt_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, QEL_SRC_LIST(Qel32f) src2,
+                           int src2RoiShift, QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int width,
+                           int height);
+QelStatus qelmSub_tt_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, const Qel64f* src2,
+                         int src2Stride1, int src2Stride2, Qel64f* dst, int dstStride1,
+                         int dstStride2, int width, int height);
+QelStatus qelmSub_tt_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, QEL_SRC_LIST(Qel64f) src2,
+                           int src2RoiShift, QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int width,
+                           int height);
+QelStatus qelmSub_mam_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                          const Qel32f* src2, int src2Stride1, int src2Stride2, Qel32f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmSub_mam_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1,
+                            int src1Stride2, const Qel32f* src2, int src2Stride1, int src2Stride2,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1,
+                            int dstStride2, int width, int height, int count);
+QelStatus qelmSub_mam_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, QEL_DST_LIST(Qel32f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmSub_mam_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                          const Qel64f* src2, int src2Stride1, int src2Stride2, Qel64f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmSub_mam_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1,
+                            int src1Stride2, const Qel64f* src2, int src2Stride1, int src2Stride2,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1,
+                            int dstStride2, int width, int height, int count);
+QelStatus qelmSub_mam_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, QEL_DST_LIST(Qel64f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmSub_mat_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                          const Qel32f* src2, int src2Stride1, int src2Stride2, Qel32f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmSub_mat_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1,
+                            int src1Stride2, const Qel32f* src2, int src2Stride1, int src2Stride2,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1,
+                            int dstStride2, int width, int height, int count);
+QelStatus qelmSub_mat_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, QEL_DST_LIST(Qel32f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmSub_mat_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                          const Qel64f* src2, int src2Stride1, int src2Stride2, Qel64f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmSub_mat_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1,
+                            int src1Stride2, const Qel64f* src2, int src2Stride1, int src2Stride2,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1,
+                            int dstStride2, int width, int height, int count);
+QelStatus qelmSub_mat_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, QEL_DST_LIST(Qel64f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmSub_tam_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                          const Qel32f* src2, int src2Stride1, int src2Stride2, Qel32f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmSub_tam_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1,
+                            int src1Stride2, const Qel32f* src2, int src2Stride1, int src2Stride2,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1,
+                            int dstStride2, int width, int height, int count);
+QelStatus qelmSub_tam_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, QEL_DST_LIST(Qel32f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmSub_tam_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                          const Qel64f* src2, int src2Stride1, int src2Stride2, Qel64f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmSub_tam_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1,
+                            int src1Stride2, const Qel64f* src2, int src2Stride1, int src2Stride2,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1,
+                            int dstStride2, int width, int height, int count);
+QelStatus qelmSub_tam_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, QEL_DST_LIST(Qel64f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmSub_tat_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                          const Qel32f* src2, int src2Stride1, int src2Stride2, Qel32f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmSub_tat_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1,
+                            int src1Stride2, const Qel32f* src2, int src2Stride1, int src2Stride2,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1,
+                            int dstStride2, int width, int height, int count);
+QelStatus qelmSub_tat_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, QEL_DST_LIST(Qel32f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmSub_tat_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                          const Qel64f* src2, int src2Stride1, int src2Stride2, Qel64f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmSub_tat_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1,
+                            int src1Stride2, const Qel64f* src2, int src2Stride1, int src2Stride2,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1,
+                            int dstStride2, int width, int height, int count);
+QelStatus qelmSub_tat_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, QEL_DST_LIST(Qel64f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmSub_mma_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, const Qel32f* src2,
+                          int src2Stride0, int src2Stride1, int src2Stride2, Qel32f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmSub_mma_32f_L(const Qel32f* src1, int src1Stride1, int src1Stride2,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride1,
+                            int src2Stride2, QEL_DST_LIST(Qel32f) dst, int dstRoiShift,
+                            int dstStride1, int dstStride2, int width, int height, int count);
+QelStatus qelmSub_mma_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, QEL_SRC_LIST(Qel32f) src2,
+                            int src2RoiShift, int src2Stride0, QEL_DST_LIST(Qel32f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmSub_mma_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, const Qel64f* src2,
+                          int src2Stride0, int src2Stride1, int src2Stride2, Qel64f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmSub_mma_64f_L(const Qel64f* src1, int src1Stride1, int src1Stride2,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride1,
+                            int src2Stride2, QEL_DST_LIST(Qel64f) dst, int dstRoiShift,
+                            int dstStride1, int dstStride2, int width, int height, int count);
+QelStatus qelmSub_mma_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, QEL_SRC_LIST(Qel64f) src2,
+                            int src2RoiShift, int src2Stride0, QEL_DST_LIST(Qel64f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmSub_mta_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, const Qel32f* src2,
+                          int src2Stride0, int src2Stride1, int src2Stride2, Qel32f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmSub_mta_32f_L(const Qel32f* src1, int src1Stride1, int src1Stride2,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride1,
+                            int src2Stride2, QEL_DST_LIST(Qel32f) dst, int dstRoiShift,
+                            int dstStride1, int dstStride2, int width, int height, int count);
+QelStatus qelmSub_mta_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, QEL_SRC_LIST(Qel32f) src2,
+                            int src2RoiShift, int src2Stride0, QEL_DST_LIST(Qel32f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmSub_mta_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, const Qel64f* src2,
+                          int src2Stride0, int src2Stride1, int src2Stride2, Qel64f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmSub_mta_64f_L(const Qel64f* src1, int src1Stride1, int src1Stride2,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride1,
+                            int src2Stride2, QEL_DST_LIST(Qel64f) dst, int dstRoiShift,
+                            int dstStride1, int dstStride2, int width, int height, int count);
+QelStatus qelmSub_mta_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, QEL_SRC_LIST(Qel64f) src2,
+                            int src2RoiShift, int src2Stride0, QEL_DST_LIST(Qel64f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmSub_tma_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, const Qel32f* src2,
+                          int src2Stride0, int src2Stride1, int src2Stride2, Qel32f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmSub_tma_32f_L(const Qel32f* src1, int src1Stride1, int src1Stride2,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride1,
+                            int src2Stride2, QEL_DST_LIST(Qel32f) dst, int dstRoiShift,
+                            int dstStride1, int dstStride2, int width, int height, int count);
+QelStatus qelmSub_tma_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, QEL_SRC_LIST(Qel32f) src2,
+                            int src2RoiShift, int src2Stride0, QEL_DST_LIST(Qel32f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmSub_tma_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, const Qel64f* src2,
+                          int src2Stride0, int src2Stride1, int src2Stride2, Qel64f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmSub_tma_64f_L(const Qel64f* src1, int src1Stride1, int src1Stride2,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride1,
+                            int src2Stride2, QEL_DST_LIST(Qel64f) dst, int dstRoiShift,
+                            int dstStride1, int dstStride2, int width, int height, int count);
+QelStatus qelmSub_tma_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, QEL_SRC_LIST(Qel64f) src2,
+                            int src2RoiShift, int src2Stride0, QEL_DST_LIST(Qel64f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmSub_tta_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, const Qel32f* src2,
+                          int src2Stride0, int src2Stride1, int src2Stride2, Qel32f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmSub_tta_32f_L(const Qel32f* src1, int src1Stride1, int src1Stride2,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride1,
+                            int src2Stride2, QEL_DST_LIST(Qel32f) dst, int dstRoiShift,
+                            int dstStride1, int dstStride2, int width, int height, int count);
+QelStatus qelmSub_tta_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, QEL_SRC_LIST(Qel32f) src2,
+                            int src2RoiShift, int src2Stride0, QEL_DST_LIST(Qel32f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmSub_tta_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, const Qel64f* src2,
+                          int src2Stride0, int src2Stride1, int src2Stride2, Qel64f* dst,
+                          int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                          int count);
+QelStatus qelmSub_tta_64f_L(const Qel64f* src1, int src1Stride1, int src1Stride2,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride1,
+                            int src2Stride2, QEL_DST_LIST(Qel64f) dst, int dstRoiShift,
+                            int dstStride1, int dstStride2, int width, int height, int count);
+QelStatus qelmSub_tta_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, QEL_SRC_LIST(Qel64f) src2,
+                            int src2RoiShift, int src2Stride0, QEL_DST_LIST(Qel64f) dst,
+                            int dstRoiShift, int dstStride0, int width, int height, int count);
+QelStatus qelmSub_mama_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                           const Qel32f* src2, int src2Stride0, int src2Stride1, int src2Stride2,
+                           Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int width,
+                           int height, int count);
+QelStatus qelmSub_mama_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1,
+                             int src1Stride2, QEL_SRC_LIST(Qel32f) src2, int src2RoiShift,
+                             int src2Stride1, int src2Stride2, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int dstStride1, int dstStride2, int width,
+                             int height, int count);
+QelStatus qelmSub_mama_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmSub_mama_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                           const Qel64f* src2, int src2Stride0, int src2Stride1, int src2Stride2,
+                           Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int width,
+                           int height, int count);
+QelStatus qelmSub_mama_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1,
+                             int src1Stride2, QEL_SRC_LIST(Qel64f) src2, int src2RoiShift,
+                             int src2Stride1, int src2Stride2, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int dstStride1, int dstStride2, int width,
+                             int height, int count);
+QelStatus qelmSub_mama_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmSub_mata_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                           const Qel32f* src2, int src2Stride0, int src2Stride1, int src2Stride2,
+                           Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int width,
+                           int height, int count);
+QelStatus qelmSub_mata_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1,
+                             int src1Stride2, QEL_SRC_LIST(Qel32f) src2, int src2RoiShift,
+                             int src2Stride1, int src2Stride2, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int dstStride1, int dstStride2, int width,
+                             int height, int count);
+QelStatus qelmSub_mata_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmSub_mata_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                           const Qel64f* src2, int src2Stride0, int src2Stride1, int src2Stride2,
+                           Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int width,
+                           int height, int count);
+QelStatus qelmSub_mata_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1,
+                             int src1Stride2, QEL_SRC_LIST(Qel64f) src2, int src2RoiShift,
+                             int src2Stride1, int src2Stride2, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int dstStride1, int dstStride2, int width,
+                             int height, int count);
+QelStatus qelmSub_mata_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmSub_tama_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                           const Qel32f* src2, int src2Stride0, int src2Stride1, int src2Stride2,
+                           Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int width,
+                           int height, int count);
+QelStatus qelmSub_tama_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1,
+                             int src1Stride2, QEL_SRC_LIST(Qel32f) src2, int src2RoiShift,
+                             int src2Stride1, int src2Stride2, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int dstStride1, int dstStride2, int width,
+                             int height, int count);
+QelStatus qelmSub_tama_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmSub_tama_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                           const Qel64f* src2, int src2Stride0, int src2Stride1, int src2Stride2,
+                           Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int width,
+                           int height, int count);
+QelStatus qelmSub_tama_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1,
+                             int src1Stride2, QEL_SRC_LIST(Qel64f) src2, int src2RoiShift,
+                             int src2Stride1, int src2Stride2, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int dstStride1, int dstStride2, int width,
+                             int height, int count);
+QelStatus qelmSub_tama_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmSub_tata_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                           const Qel32f* src2, int src2Stride0, int src2Stride1, int src2Stride2,
+                           Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int width,
+                           int height, int count);
+QelStatus qelmSub_tata_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1,
+                             int src1Stride2, QEL_SRC_LIST(Qel32f) src2, int src2RoiShift,
+                             int src2Stride1, int src2Stride2, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int dstStride1, int dstStride2, int width,
+                             int height, int count);
+QelStatus qelmSub_tata_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmSub_tata_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2,
+                           const Qel64f* src2, int src2Stride0, int src2Stride1, int src2Stride2,
+                           Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int width,
+                           int height, int count);
+QelStatus qelmSub_tata_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1,
+                             int src1Stride2, QEL_SRC_LIST(Qel64f) src2, int src2RoiShift,
+                             int src2Stride1, int src2Stride2, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int dstStride1, int dstStride2, int width,
+                             int height, int count);
+QelStatus qelmSub_tata_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
 
 /* ---- Add and Sub over vectors and constants. */
 
 /* ---- Mul over two matrices: dst = op1(A) * op2(B). */
+/* Every operand here is sized as stored, unlike a transposed operand of Add and
+ * Sub: src1Width and src1Height describe src1 as it lies in memory, transposed
+ * (t, ta) or not.
+ * op1 has M rows and K columns, op2 K rows and N columns, and dst holds M rows
+ * of N elements; its _P list has M x N entries, row by row. Inner products may
+ * round differently by size and layout: square sizes 3 to 6 add from the left,
+ * longer contiguous rows add in split blocks of eight. */
+
+QelStatus qelmMul_mm_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                         const Qel32f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                         Qel32f* dst, int dstStride1, int dstStride2);
+QelStatus qelmMul_mm_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Width, int src1Height,
+                           QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Width, int src2Height,
+                           QEL_DST_LIST(Qel32f) dst, int dstRoiShift);
+QelStatus qelmMul_mt_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                         const Qel32f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                         Qel32f* dst, int dstStride1, int dstStride2);
+QelStatus qelmMul_mt_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Width, int src1Height,
+                           QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Width, int src2Height,
+                           QEL_DST_LIST(Qel32f) dst, int dstRoiShift);
+QelStatus qelmMul_tm_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                         const Qel32f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                         Qel32f* dst, int dstStride1, int dstStride2);
+QelStatus qelmMul_tm_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Width, int src1Height,
+                           QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Width, int src2Height,
+                           QEL_DST_LIST(Qel32f) dst, int dstRoiShift);
+QelStatus qelmMul_tt_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                         const Qel32f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                         Qel32f* dst, int dstStride1, int dstStride2);
+QelStatus qelmMul_tt_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Width, int src1Height,
+                           QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Width, int src2Height,
+                           QEL_DST_LIST(Qel32f) dst, int dstRoiShift);
+QelStatus qelmMul_mam_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel32f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                          Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mam_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            const Qel32f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mam_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_mat_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel32f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                          Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mat_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            const Qel32f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mat_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_tam_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel32f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                          Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tam_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            const Qel32f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tam_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_tat_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel32f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                          Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tat_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            const Qel32f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tat_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_mma_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel32f* src2, int src2Stride0, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                          Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mma_32f_L(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mma_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_mta_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel32f* src2, int src2Stride0, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                          Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mta_32f_L(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mta_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_tma_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel32f* src2, int src2Stride0, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                          Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tma_32f_L(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tma_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_tta_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel32f* src2, int src2Stride0, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                          Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tta_32f_L(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tta_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_mama_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                           const Qel32f* src2, int src2Stride0, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                           Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mama_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mama_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0, int src2Width, int src2Height,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_mata_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                           const Qel32f* src2, int src2Stride0, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                           Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mata_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mata_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0, int src2Width, int src2Height,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_tama_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                           const Qel32f* src2, int src2Stride0, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                           Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tama_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tama_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0, int src2Width, int src2Height,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_tata_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                           const Qel32f* src2, int src2Stride0, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                           Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tata_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tata_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0, int src2Width, int src2Height,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_mm_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                         const Qel64f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                         Qel64f* dst, int dstStride1, int dstStride2);
+QelStatus qelmMul_mm_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Width, int src1Height,
+                           QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Width, int src2Height,
+                           QEL_DST_LIST(Qel64f) dst, int dstRoiShift);
+QelStatus qelmMul_mt_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                         const Qel64f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                         Qel64f* dst, int dstStride1, int dstStride2);
+QelStatus qelmMul_mt_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Width, int src1Height,
+                           QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Width, int src2Height,
+                           QEL_DST_LIST(Qel64f) dst, int dstRoiShift);
+QelStatus qelmMul_tm_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                         const Qel64f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                         Qel64f* dst, int dstStride1, int dstStride2);
+QelStatus qelmMul_tm_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Width, int src1Height,
+                           QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Width, int src2Height,
+                           QEL_DST_LIST(Qel64f) dst, int dstRoiShift);
+QelStatus qelmMul_tt_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                         const Qel64f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                         Qel64f* dst, int dstStride1, int dstStride2);
+QelStatus qelmMul_tt_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Width, int src1Height,
+                           QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Width, int src2Height,
+                           QEL_DST_LIST(Qel64f) dst, int dstRoiShift);
+QelStatus qelmMul_mam_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel64f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                          Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mam_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            const Qel64f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mam_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_mat_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel64f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                          Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mat_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            const Qel64f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mat_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_tam_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel64f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                          Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tam_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            const Qel64f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tam_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_tat_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel64f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                          Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tat_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            const Qel64f* src2, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tat_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_mma_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel64f* src2, int src2Stride0, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                          Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mma_64f_L(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mma_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_mta_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel64f* src2, int src2Stride0, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                          Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mta_64f_L(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mta_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_tma_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel64f* src2, int src2Stride0, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                          Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tma_64f_L(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tma_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_tta_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel64f* src2, int src2Stride0, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                          Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tta_64f_L(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tta_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0, int src2Width, int src2Height,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_mama_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                           const Qel64f* src2, int src2Stride0, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                           Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mama_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mama_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0, int src2Width, int src2Height,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_mata_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                           const Qel64f* src2, int src2Stride0, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                           Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mata_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_mata_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0, int src2Width, int src2Height,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_tama_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                           const Qel64f* src2, int src2Stride0, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                           Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tama_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tama_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0, int src2Width, int src2Height,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_tata_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                           const Qel64f* src2, int src2Stride0, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                           Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tata_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride1, int src2Stride2, int src2Width, int src2Height,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1, int dstStride2, int count);
+QelStatus qelmMul_tata_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0, int src2Width, int src2Height,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
 
 /* ---- LUDecomp and LUBackSubst. */
 
