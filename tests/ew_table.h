@@ -81,4 +81,40 @@ inline std::vector<Export> matrixExports() {
   };
 }
 
+// Vectors and constants. Orders of the _P column may differ between the types,
+// so those shapes are spelled out row by row.
+#define EW_VROW6(OP, SYM, SH, O32, O32L, O32P, O64, O64L, O64P, KA, KB, CF)  \
+  EW_ROW(OP##_##SH##_32f, SYM, KA, false, KB, false, CF, S, false, O32),     \
+      EW_ROW(OP##_##SH##_32f_L, SYM, KA, false, KB, false, CF, L, false, O32L), \
+      EW_ROW(OP##_##SH##_32f_P, SYM, KA, false, KB, false, CF, P, false, O32P), \
+      EW_ROW(OP##_##SH##_64f, SYM, KA, false, KB, false, CF, S, true, O64),      \
+      EW_ROW(OP##_##SH##_64f_L, SYM, KA, false, KB, false, CF, L, true, O64L),   \
+      EW_ROW(OP##_##SH##_64f_P, SYM, KA, false, KB, false, CF, P, true, O64P)
+#define EW_VARRAY(OP, SYM, SH, KA, KB, CF) \
+  EW_VROW6(OP, SYM, SH, "NCZS", "NCZSR", "NCZSR", "NCZS", "NCZSR", "NCZSR", KA, KB, CF)
+
+inline std::vector<Export> vectorExports() {
+  return {
+      EW_SINGLE(Add, '+', vv, VONE, false, VONE, false, false),
+      EW_SINGLE(Add, '+', vc, VONE, false, CON, false, false),
+      EW_VROW6(Add, '+', vav, "NZSC", "NZSRC", "NZSCR", "NZSC", "NZSRC", "NZSCR", VARR, VONE, false),
+      EW_VARRAY(Add, '+', vac, VARR, CON, false),
+      EW_VROW6(Add, '+', vca, "NCZS", "NCZSR", "NCZSR", "NCZS", "NCZSR", "NCZS", VONE, CAR, false),
+      EW_VARRAY(Add, '+', vava, VARR, VARR, false),
+      EW_VARRAY(Add, '+', vaca, VARR, CAR, false),
+      EW_SINGLE(Sub, '-', vv, VONE, false, VONE, false, false),
+      EW_SINGLE(Sub, '-', vc, VONE, false, CON, false, false),
+      EW_SINGLE(Sub, '-', cv, CON, false, VONE, false, true),
+      EW_VROW6(Sub, '-', vav, "NZSC", "NZSRC", "NZSCR", "NZSC", "NZSRC", "NZSCR", VARR, VONE, false),
+      EW_VARRAY(Sub, '-', vva, VONE, VARR, false),
+      EW_VARRAY(Sub, '-', vac, VARR, CON, false),
+      EW_VARRAY(Sub, '-', vca, VONE, CAR, false),
+      EW_VARRAY(Sub, '-', vava, VARR, VARR, false),
+      EW_VARRAY(Sub, '-', vaca, VARR, CAR, false),
+      EW_VROW6(Sub, '-', cav, "NCZS", "NCZSR", "NCZS", "NCZS", "NCZSR", "NCZSR", CAR, VONE, true),
+      EW_VARRAY(Sub, '-', cva, CON, VARR, true),
+      EW_VARRAY(Sub, '-', cava, CAR, VARR, true),
+  };
+}
+
 }  // namespace ew

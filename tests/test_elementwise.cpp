@@ -23,6 +23,7 @@ using qt::Form;
 
 std::vector<Export> allExports() {
   std::vector<Export> all = matrixExports();
+  for (Export& e : vectorExports()) all.push_back(e);
   return all;
 }
 
@@ -234,6 +235,23 @@ Threshold thresholdOf(const Export& ex, bool contiguous) {
       th.work = [](int64_t x, int64_t c) { return x * (2 * c + 1); };
     return th;
   }
+  // Vectors: parallel when W is above the limit.
+  const std::string shape = ex.name.substr(4, ex.name.find('_', 4) - 4);
+  th.serialAtLimit = true;
+  th.t = ex.lay == L ? 2500 : ex.lay == P ? 1500 : ex.f64 ? 1400 : 4800;
+  if (shape == "vac" || shape == "vav" || shape == "vva")
+    th.work = [](int64_t x, int64_t c) { return (2 * c + 1) * x; };
+  else if (shape == "vaca" || shape == "cava")
+    th.work = [](int64_t x, int64_t c) { return (2 * x + 1) * c; };
+  else if (shape == "vava")
+    th.work = [](int64_t x, int64_t c) { return 3 * x * c; };
+  else if (shape == "vca" || shape == "cav")
+    th.work = [](int64_t x, int64_t c) { return x * (c + 1) + c; };
+  else if (shape == "cva") {
+    th.work = [](int64_t, int64_t c) { return 2 * c; };
+    th.t -= 1;
+  }
+  th.never = ex.name == "Sub_vva_64f_P";
   return th;
 }
 
@@ -343,6 +361,78 @@ TEST(Elementwise, InPlaceOnArrayOperand) {
     for (size_t k = 0; k < after.size(); ++k)
       ASSERT_EQ(after[k], before[k] - b.at(0, (k / n) % n, k % n)) << n;
   }
+}
+
+}  // namespace
+
+namespace {
+
+TEST(ElementwiseVectors, ConstantSideDecidesTheDifference) {
+  const float src[2] = {1, 2};
+  float d[2];
+  ASSERT_EQ(qelmSub_cv_32f(src, 4, 10.0f, d, 4, 2), qelStatusOk);
+  EXPECT_EQ(d[0], 9.0f);
+  EXPECT_EQ(d[1], 8.0f);
+  ASSERT_EQ(qelmSub_vc_32f(src, 4, 10.0f, d, 4, 2), qelStatusOk);
+  EXPECT_EQ(d[0], -9.0f);
+  EXPECT_EQ(d[1], -8.0f);
+}
+
+// Above length 6 the one-vector kernels run a forward loop whenever a source
+// overlaps dst, so an overlapping call gives what the plain loop gives.
+TEST(ElementwiseVectors, OverlapGivesForwardLoop) {
+  for (int len : {7, 8, 9, 16, 23, 40})
+    for (int shift : {-3, -1, 1, 2, 5}) {
+      std::vector<float> mem(64), want(64);
+      for (int k = 0; k < 64; ++k) mem[k] = want[k] = float(k * 3 % 17);
+      float* src = mem.data() + 10;
+      float* dst = src + shift;
+      for (int j = 0; j < len; ++j) want[10 + shift + j] = want[10 + j] + 0.5f;
+      ASSERT_EQ(qelmAdd_vc_32f(src, 4, 0.5f, dst, 4, len), qelStatusOk);
+      EXPECT_EQ(mem, want) << "len " << len << " shift " << shift;
+    }
+}
+
+// Element pointers aimed one element past the data with a shift of minus one
+// element: a roi shift that only the checks can refuse.
+template <class T>
+std::vector<const T*> pastByOne(const std::vector<T>& v) {
+  std::vector<const T*> p;
+  for (const T& x : v) p.push_back(&x + 1);
+  return p;
+}
+
+TEST(ElementwiseVectors, NarrowerChecksStayNarrow) {
+  // Add_vca_64f_P tests no roi shift; its 32f twin refuses a negative one.
+  std::vector<double> src64 = {1, 2, 3}, vals64 = {10, 20}, out64(6);
+  std::vector<double*> dst64 = {&out64[0], &out64[1], &out64[2]};
+  EXPECT_EQ(qelmAdd_vca_64f_P(pastByOne(src64).data(), -8, vals64.data(), 8, dst64.data(), 0, 24,
+                              3, 2),
+            qelStatusOk);
+  EXPECT_EQ(out64, (std::vector<double>{11, 12, 13, 21, 22, 23}));
+  std::vector<float> src32 = {1, 2, 3}, vals32 = {10, 20}, out32(6);
+  std::vector<float*> dst32 = {&out32[0], &out32[1], &out32[2]};
+  EXPECT_EQ(qelmAdd_vca_32f_P(pastByOne(src32).data(), -4, vals32.data(), 4, dst32.data(), 0, 12,
+                              3, 2),
+            qelStatusBadRoiShift);
+
+  // Sub_cav_32f_P likewise, against its 64f twin.
+  EXPECT_EQ(qelmSub_cav_32f_P(pastByOne(src32).data(), -4, vals32.data(), 4, dst32.data(), 0, 12,
+                              3, 2),
+            qelStatusOk);
+  EXPECT_EQ(out32, (std::vector<float>{9, 8, 7, 19, 18, 17}));
+  EXPECT_EQ(qelmSub_cav_64f_P(pastByOne(src64).data(), -8, vals64.data(), 8, dst64.data(), 0, 24,
+                              3, 2),
+            qelStatusBadRoiShift);
+
+  // Add_vaca_32f_P takes any srcStride0, even 0: every object reads one vector.
+  std::vector<const float*> src32p = {&src32[0], &src32[1], &src32[2]};
+  EXPECT_EQ(qelmAdd_vaca_32f_P(src32p.data(), 0, 0, vals32.data(), 4, dst32.data(), 0, 12, 3, 2),
+            qelStatusOk);
+  EXPECT_EQ(out32, (std::vector<float>{11, 12, 13, 21, 22, 23}));
+  std::vector<const double*> src64p = {&src64[0], &src64[1], &src64[2]};
+  EXPECT_EQ(qelmAdd_vaca_64f_P(src64p.data(), 0, 0, vals64.data(), 8, dst64.data(), 0, 24, 3, 2),
+            qelStatusBadStride);
 }
 
 }  // namespace

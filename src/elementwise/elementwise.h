@@ -16,11 +16,13 @@ struct AddOp {
   template <class T>
   static T apply(T a, T b) { return a + b; }
   static __m128 apply(__m128 a, __m128 b) { return _mm_add_ps(a, b); }
+  static __m128d apply(__m128d a, __m128d b) { return _mm_add_pd(a, b); }
 };
 struct SubOp {
   template <class T>
   static T apply(T a, T b) { return a - b; }
   static __m128 apply(__m128 a, __m128 b) { return _mm_sub_ps(a, b); }
+  static __m128d apply(__m128d a, __m128d b) { return _mm_sub_pd(a, b); }
 };
 
 // ------------------------------------------------ 32f rows held in SSE registers
@@ -98,8 +100,18 @@ inline void noteAlignment(Alignment& al, const V& v, bool first) {
 //   5 by 5  unaligned, four elements and one per row;
 //   6 by 6  aligned loads of the first operand, or unaligned. The destination's
 //           object distance is not tested, so its later objects may be unaligned.
+template <class V>
+constexpr bool isObjectList = V::isArray && !requires(V v) { v.s0; };
+
 template <class Op, int R, int N, class A, class B, class D>
 void unrolledSse(A a, B b, D d, int count) {
+  // Objects behind a list have addresses of their own: test each one.
+  if constexpr (isObjectList<A> || isObjectList<B> || isObjectList<D>) {
+    if (count > 1) {
+      for (int n = 0; n < count; ++n) unrolledSse<Op, R, N>(a.from(n), b.from(n), d.from(n), 1);
+      return;
+    }
+  }
   Alignment al;
   noteAlignment(al, a, true);
   noteAlignment(al, b, false);
@@ -206,6 +218,61 @@ QelStatus elementwise(A a, B b, D d, int width, int height, int count) {
     for (int i = 0; i < height; ++i)
       for (int j = 0; j < width; ++j) dobj.at(i, j) = Op::apply(T(ao.at(i, j)), T(bo.at(i, j)));
   }
+  return qelStatusOk;
+}
+
+// ------------------------------------------------ one vector: vv, vc, cv
+
+inline __m128 loadUnaligned(const float* p) { return _mm_loadu_ps(p); }
+inline __m128d loadUnaligned(const double* p) { return _mm_loadu_pd(p); }
+inline void storeAligned(float* p, __m128 v) { _mm_store_ps(p, v); }
+inline void storeAligned(double* p, __m128d v) { _mm_store_pd(p, v); }
+inline __m128 broadcast(float v) { return _mm_set1_ps(v); }
+inline __m128d broadcast(double v) { return _mm_set1_pd(v); }
+
+template <class V>
+inline bool overlapsDst(const V& v, const void* dst, int len, int e) {
+  if constexpr (requires { v.base; }) {
+    const char* s = reinterpret_cast<const char*>(v.base);
+    const char* d = static_cast<const char*>(dst);
+    return s < d + len * e && d < s + len * e;
+  } else {
+    return false;  // a constant occupies no memory of the call
+  }
+}
+
+template <class T, class V>
+inline auto lanesAt(const V& v, int j) {
+  if constexpr (requires { v.base; }) return loadUnaligned(&v.at(0, j));
+  else return broadcast(v.val);
+}
+
+// One vector, element by element in forward order: the fixed lengths 3 to 6,
+// lengths 1 and 2, general strides, and every overlapping call. Above length 6,
+// a contiguous call whose sources don't overlap dst and whose dst is element
+// aligned steps dst up to 16 bytes singly, then does eight elements a pass in
+// vector units, and the tail singly.
+template <class Op, class A, class B, class D>
+QelStatus vectorOnce(A a, B b, D d, int len) {
+  using T = typename D::Object::Elem;
+  const auto ao = a.object(0);
+  const auto bo = b.object(0);
+  const auto dobj = d.object(0);
+  int j = 0;
+  if constexpr (D::Object::contiguous) {
+    constexpr int e = sizeof(T), lanes = 16 / e;
+    const uintptr_t addr = reinterpret_cast<uintptr_t>(dobj.base);
+    if (len > 6 && !overlapsDst(ao, dobj.base, len, e) && !overlapsDst(bo, dobj.base, len, e) &&
+        (addr & 3) == 0) {
+      for (; j < len && ((addr + j * e) & 15) != 0; ++j)
+        dobj.at(0, j) = Op::apply(T(ao.at(0, j)), T(bo.at(0, j)));
+      for (; j + 8 <= len; j += 8)
+        for (int k = 0; k < 8; k += lanes)
+          storeAligned(&dobj.at(0, j + k),
+                       Op::apply(lanesAt<T>(ao, j + k), lanesAt<T>(bo, j + k)));
+    }
+  }
+  for (; j < len; ++j) dobj.at(0, j) = Op::apply(T(ao.at(0, j)), T(bo.at(0, j)));
   return qelStatusOk;
 }
 

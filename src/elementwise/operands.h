@@ -27,6 +27,17 @@ ConstArray<T> constArray(const T* p, int s0) { return {p, s0}; }
 template <class T>
 ConstList<T> constList(const T* const* p, int shift) { return {p, shift}; }
 
+template <class T>
+StridedArray<T> vectorArrayS(T* p, int s0, int s2) { return {p, s0, elemSize<T>, s2}; }
+template <class T>
+ListArray<T> vectorArrayL(T* const* p, int shift, int s2) { return {p, shift, elemSize<T>, s2}; }
+template <class T>
+Single<Mat<T>> vectorSingle(T* p, int s2) { return {{p, elemSize<T>, s2}}; }
+template <class T>
+PointerArray<T, false> arrayPUncheckedStride0(T* const* p, int shift, int s0, int rowLen) {
+  return {p, shift, s0, rowLen};
+}
+
 template <class A>
 TransArray<A> transposed(A a) { return {a}; }
 template <class V>
@@ -58,3 +69,41 @@ Single<Trans<V>> transposed(Single<V> s) { return {{s.v}}; }
 #define QEL_READ_t(view) transposed(view)
 #define QEL_ROWLEN_m width
 #define QEL_ROWLEN_t height
+
+// ---- vectors: a vector is row 0 of a matrix view. Its row distance is never
+// used; it is set to the element size so that the matrix checks pass it by.
+#define QEL_P_VARR_S(T, x) const T *x, int x##Stride0, int x##Stride2
+#define QEL_P_VARR_L(T, x) const T *const *x, int x##RoiShift, int x##Stride2
+#define QEL_P_VARR_P(T, x) const T *const *x, int x##RoiShift, int x##Stride0
+#define QEL_P_VARR_Pns(T, x) QEL_P_VARR_P(T, x)
+#define QEL_P_VONE_S(T, x) const T *x, int x##Stride2
+#define QEL_P_VONE_L(T, x) QEL_P_VONE_S(T, x)
+#define QEL_P_VONE_P(T, x) const T *const *x, int x##RoiShift
+#define QEL_P_CON_S(T, x) T x
+#define QEL_P_CON_L(T, x) T x
+#define QEL_P_CON_P(T, x) T x
+#define QEL_P_CAR_S(T, x) const T *x, int x##Stride0
+#define QEL_P_CAR_L(T, x) const T *const *x, int x##RoiShift
+#define QEL_P_CAR_P(T, x) QEL_P_CAR_S(T, x)
+#define QEL_D_VARR_S(T) T *dst, int dstStride0, int dstStride2
+#define QEL_D_VARR_L(T) T *const *dst, int dstRoiShift, int dstStride2
+#define QEL_D_VARR_P(T) T *const *dst, int dstRoiShift, int dstStride0
+#define QEL_D_VONE_S(T) T *dst, int dstStride2
+#define QEL_D_VONE_P(T) T *const *dst, int dstRoiShift
+
+#define QEL_V_VARR_S(x, len) vectorArrayS(x, x##Stride0, x##Stride2)
+#define QEL_V_VARR_L(x, len) vectorArrayL(x, x##RoiShift, x##Stride2)
+#define QEL_V_VARR_P(x, len) arrayP(x, x##RoiShift, x##Stride0, len)
+// The one _P array whose object distance goes unchecked.
+#define QEL_V_VARR_Pns(x, len) arrayPUncheckedStride0(x, x##RoiShift, x##Stride0, len)
+#define QEL_V_VONE_S(x, len) vectorSingle(x, x##Stride2)
+#define QEL_V_VONE_L(x, len) QEL_V_VONE_S(x, len)
+#define QEL_V_VONE_P(x, len) singleP(x, x##RoiShift, len)
+#define QEL_V_CON_S(x, len) constant(x)
+#define QEL_V_CON_L(x, len) constant(x)
+#define QEL_V_CON_P(x, len) constant(x)
+#define QEL_V_CAR_S(x, len) constArray(x, x##Stride0)
+#define QEL_V_CAR_L(x, len) constList(x, x##RoiShift)
+#define QEL_V_CAR_P(x, len) constArray(x, x##Stride0)
+#define QEL_P_CAR_Pns(T, x) QEL_P_CAR_P(T, x)
+#define QEL_V_CAR_Pns(x, len) QEL_V_CAR_P(x, len)
