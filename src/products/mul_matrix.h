@@ -1,0 +1,396 @@
+// Matrix-by-matrix products: dst = op1(src1) * op2(src2), each operand used as
+// stored (m, ma) or transposed (t, ta), once or for every object of an array.
+//
+// Every kernel has three stages and the rounding differs between them on
+// purpose:
+//   1. square sizes 3..6 (the kernel's own set): straight-line code, every
+//      result the plain sum p0 + p1 + ... added from the left;
+//   2. contiguous kernels otherwise: a 4-by-2 register tile whose inner products
+//      are split sums for K >= 8 (SplitAccumulator), sums from zero below;
+//   3. general and _P kernels otherwise: dst(i, j) is zeroed and takes every
+//      partial sum in ascending k.
+// The shapes differ only in how op1(i, k) and op2(k, j) are addressed, which
+// the views (Mat, Trans, MatP) decide.
+#pragma once
+
+#include "../frame/checks.h"
+#include "../frame/driver.h"
+#include "../frame/views.h"
+#include "lanes.h"
+#include "qelm/qelmtypes.h"
+
+#include <cstdint>
+#include <type_traits>
+
+namespace qel::mul {
+
+// ---------------------------------------------------------------- sizes
+
+// The stored sizes of both operands and the extents of the product.
+struct Dims {
+  int32_t w1, h1, w2, h2;
+  int32_t M, N, K, K2;  // K2: the inner extent as src2 sees it
+};
+
+template <bool Trans1, bool Trans2>
+inline Dims dimsOf(int32_t w1, int32_t h1, int32_t w2, int32_t h2) {
+  return {w1, h1, w2, h2, Trans1 ? w1 : h1, Trans2 ? h2 : w2, Trans1 ? h1 : w1, Trans2 ? w2 : h2};
+}
+
+// The square sizes a kernel has straight-line code for, as bits.
+enum SmallSizes : unsigned { kNone = 0, k3 = 1, k345 = 7, k3456 = 15 };
+
+// Odd members of the family, kept as they are.
+enum LineFlags : unsigned {
+  kNoTile = 1,      // the contiguous kernel loops like a general one after its small sizes
+  kOrSelect = 2,    // sizes 3 and 4 chosen by the OR of the four extents
+  kOwnGeneral = 4,  // a _L general kernel with a body of its own instead of the single shape's
+};
+
+// One line of an export table.
+struct Line {
+  unsigned contiguousSizes, generalSizes, flags;
+};
+
+// The size whose straight-line path a call takes, or 0: sizes 3, 4, 5, 6 in
+// that order, all four extents equal to it.
+inline int smallSizeOf(unsigned sizes, const Dims& d) {
+  for (int n = 3; n <= 6; ++n)
+    if ((sizes >> (n - 3) & 1u) && d.w1 == n && d.h1 == n && d.w2 == n && d.h2 == n) return n;
+  return 0;
+}
+
+// 3 and 4 by the OR of the four extents, then 5 and 6 extent by extent. An OR
+// of 3 also comes from mixed extents 1, 2, 3; those run the 3 path through
+// their own row widths.
+inline int smallSizeByOr(const Dims& d) {
+  const int32_t any = d.w1 | d.h1 | d.w2 | d.h2;
+  if (any == 3) return 3;
+  if (any == 4) return 4;
+  for (int n = 5; n <= 6; ++n)
+    if (d.w1 == n && d.h1 == n && d.w2 == n && d.h2 == n) return n;
+  return 0;
+}
+
+// ---------------------------------------------------------------- access traits
+
+template <class O>
+struct IsTrans : std::false_type {};
+template <class V>
+struct IsTrans<Trans<V>> : std::true_type {};
+
+// op(i, k) lies along a contiguous stored row as k grows: an untransposed
+// contiguous matrix. op2(k, j) lies along a stored row as k grows when the
+// matrix is read transposed.
+template <class O>
+constexpr bool rowsContiguous = O::contiguous && !IsTrans<O>::value;
+template <class O>
+constexpr bool columnsContiguous = O::contiguous && IsTrans<O>::value;
+
+template <class V>
+using ElemOf = typename V::Object::Elem;
+
+// ---------------------------------------------------------------- stage 1: sizes 3..6
+
+// Op2 of one product as rows held in registers.
+template <class T, int N>
+struct RowBlock {
+  using S = Lanes<T>;
+  static constexpr int R = (N + S::L - 1) / S::L;  // registers per row
+  template <int r>
+  static constexpr int width = (N - r * S::L) < S::L ? N - r * S::L : S::L;
+  typename S::V v[N][R];
+};
+
+// Op1 of one product as scalars.
+template <class T, int N>
+struct ScalarBlock {
+  T e[N][N];
+};
+
+template <class T, int N, class O>
+inline ScalarBlock<T, N> readScalars(const O& o) {
+  ScalarBlock<T, N> s;
+  unroll<N>([&](auto i) { unroll<N>([&](auto k) { s.e[i][k] = o.at(i, k); }); });
+  return s;
+}
+
+template <class T, int N, class O>
+inline RowBlock<T, N> readRows(const O& o) {
+  using S = Lanes<T>;
+  using B = RowBlock<T, N>;
+  B b;
+  if constexpr (rowsContiguous<O>) {
+    unroll<N>([&](auto k) {
+      const T* p = o.row(k);
+      unroll<B::R>([&](auto r) { b.v[k][r] = S::template load<B::template width<r>>(p + r * S::L); });
+    });
+  } else {
+    alignas(16) T buf[N][B::R * S::L] = {};
+    unroll<N>([&](auto k) { unroll<N>([&](auto j) { buf[k][j] = o.at(k, j); }); });
+    unroll<N>([&](auto k) {
+      unroll<B::R>([&](auto r) { b.v[k][r] = S::template load<S::L>(&buf[k][r * S::L]); });
+    });
+  }
+  return b;
+}
+
+template <class T, int N, class O>
+inline void writeRows(const O& o, const RowBlock<T, N>& c) {
+  using S = Lanes<T>;
+  using B = RowBlock<T, N>;
+  if constexpr (rowsContiguous<O>) {
+    unroll<N>([&](auto i) {
+      T* p = o.row(i);
+      unroll<B::R>([&](auto r) { S::template store<B::template width<r>>(p + r * S::L, c.v[i][r]); });
+    });
+  } else {
+    alignas(16) T buf[N][B::R * S::L];
+    unroll<N>([&](auto i) {
+      unroll<B::R>([&](auto r) { S::template store<S::L>(&buf[i][r * S::L], c.v[i][r]); });
+    });
+    unroll<N>([&](auto i) { unroll<N>([&](auto j) { o.at(i, j) = buf[i][j]; }); });
+  }
+}
+
+// Row i of the result is op1(i, 0) * row 0 + op1(i, 1) * row 1 + ..., from the
+// left: the same sum in the same order for every element of the row.
+template <class T, int N>
+inline RowBlock<T, N> productRows(const ScalarBlock<T, N>& a, const RowBlock<T, N>& b) {
+  using S = Lanes<T>;
+  using B = RowBlock<T, N>;
+  B c;
+  unroll<N>([&](auto i) {
+    const auto a0 = S::splat(a.e[i][0]);
+    unroll<B::R>([&](auto r) { c.v[i][r] = S::mul(a0, b.v[0][r]); });
+    unroll<N - 1>([&](auto km1) {
+      constexpr int k = km1 + 1;
+      const auto ak = S::splat(a.e[i][k]);
+      unroll<B::R>([&](auto r) { c.v[i][r] = S::add(c.v[i][r], S::mul(ak, b.v[k][r])); });
+    });
+  });
+  return c;
+}
+
+// Each object in order. A single operand is read once ahead of the loop and
+// kept; all of op2 is read before the first store of an object.
+template <int N, class A, class B, class D>
+void smallProducts(A a, B b, D d, int count) {
+  using T = ElemOf<D>;
+  [[maybe_unused]] RowBlock<T, N> heldB;
+  [[maybe_unused]] ScalarBlock<T, N> heldA;
+  if constexpr (!B::isArray) heldB = readRows<T, N>(b.object(0));
+  if constexpr (!A::isArray) heldA = readScalars<T, N>(a.object(0));
+  for (int n = 0; n < count; ++n) {
+    RowBlock<T, N> rows;
+    ScalarBlock<T, N> scalars;
+    if constexpr (B::isArray) rows = readRows<T, N>(b.object(n));
+    else rows = heldB;
+    if constexpr (A::isArray) scalars = readScalars<T, N>(a.object(n));
+    else scalars = heldA;
+    writeRows<T, N>(d.object(n), productRows<T, N>(scalars, rows));
+  }
+}
+
+template <class A, class B, class D>
+void smallProducts(int n, A a, B b, D d, int count) {
+  switch (n) {
+    case 3: return smallProducts<3>(a, b, d, count);
+    case 4: return smallProducts<4>(a, b, d, count);
+    case 5: return smallProducts<5>(a, b, d, count);
+    default: return smallProducts<6>(a, b, d, count);
+  }
+}
+
+// ---------------------------------------------------------------- stage 2: the tile
+
+// L consecutive terms of the inner extent, k0 .. k0 + L - 1: op1(i, k) or op2(k, j).
+template <class T, class O>
+inline typename Lanes<T>::V op1Run(const O& o, int i, int k0) {
+  using S = Lanes<T>;
+  if constexpr (rowsContiguous<O>) {
+    return S::template load<S::L>(&o.at(i, k0));
+  } else if constexpr (S::L == 4) {
+    return S::gather(o.at(i, k0), o.at(i, k0 + 1), o.at(i, k0 + 2), o.at(i, k0 + 3));
+  } else {
+    return S::gather(o.at(i, k0), o.at(i, k0 + 1));
+  }
+}
+template <class T, class O>
+inline typename Lanes<T>::V op2Run(const O& o, int k0, int j) {
+  using S = Lanes<T>;
+  if constexpr (columnsContiguous<O>) {
+    return S::template load<S::L>(&o.at(k0, j));
+  } else if constexpr (S::L == 4) {
+    return S::gather(o.at(k0, j), o.at(k0 + 1, j), o.at(k0 + 2, j), o.at(k0 + 3, j));
+  } else {
+    return S::gather(o.at(k0, j), o.at(k0 + 1, j));
+  }
+}
+
+// The Rows x Cols inner products of rows i.. and columns j.., all formed before
+// any is stored.
+template <int Rows, int Cols, class T, class OA, class OB, class OD>
+inline void tileBlock(const OA& a, const OB& b, const OD& d, int i, int j, int K) {
+  using Acc = SplitAccumulator<T>;
+  constexpr int Q = Acc::perBlock;
+  constexpr int L = Lanes<T>::L;
+  const int k8 = K & ~7;
+  Acc acc[Rows][Cols];
+  for (int k0 = 0; k0 < k8; k0 += 8) {
+    typename Acc::V y[Cols][Q];
+    unroll<Cols>([&](auto c) { unroll<Q>([&](auto q) { y[c][q] = op2Run<T>(b, k0 + q * L, j + c); }); });
+    unroll<Rows>([&](auto r) {
+      typename Acc::V x[Q];
+      unroll<Q>([&](auto q) { x[q] = op1Run<T>(a, i + r, k0 + q * L); });
+      unroll<Cols>([&](auto c) { acc[r][c].addBlock(x, y[c]); });
+    });
+  }
+  T out[Rows][Cols];
+  unroll<Rows>([&](auto r) { unroll<Cols>([&](auto c) { out[r][c] = k8 ? acc[r][c].reduce() : T(0); }); });
+  for (int k = k8; k < K; ++k)
+    unroll<Rows>([&](auto r) {
+      unroll<Cols>([&](auto c) { out[r][c] = out[r][c] + T(a.at(i + r, k)) * T(b.at(k, j + c)); });
+    });
+  unroll<Rows>([&](auto r) { unroll<Cols>([&](auto c) { d.at(i + r, j + c) = out[r][c]; }); });
+}
+
+// Tiles of 4 rows by 2 columns, then the last column of those rows, then the
+// 1, 2 or 3 remaining rows one column at a time.
+template <class T, class OA, class OB, class OD>
+void tileProduct(const OA& a, const OB& b, const OD& d, int M, int N, int K) {
+  const int m4 = M & ~3, n2 = N & ~1;
+  for (int i = 0; i < m4; i += 4)
+    for (int j = 0; j < n2; j += 2) tileBlock<4, 2, T>(a, b, d, i, j, K);
+  if ((N & 1) && m4 >= 4)
+    for (int i = 0; i < m4; i += 4) tileBlock<4, 1, T>(a, b, d, i, N - 1, K);
+  switch (M - m4) {
+    case 1: for (int j = 0; j < N; ++j) tileBlock<1, 1, T>(a, b, d, m4, j, K); break;
+    case 2: for (int j = 0; j < N; ++j) tileBlock<2, 1, T>(a, b, d, m4, j, K); break;
+    case 3: for (int j = 0; j < N; ++j) tileBlock<3, 1, T>(a, b, d, m4, j, K); break;
+    default: break;
+  }
+}
+
+// ---------------------------------------------------------------- stage 3: the loop
+
+// dst(i, j) passes through every partial sum in memory.
+template <class T, class OA, class OB, class OD>
+void loopProduct(const OA& a, const OB& b, const OD& d, int M, int N, int K) {
+  for (int i = 0; i < M; ++i)
+    for (int j = 0; j < N; ++j) {
+      T& out = d.at(i, j);
+      out = T(0);
+      for (int k = 0; k < K; ++k) out = out + T(a.at(i, k)) * T(b.at(k, j));
+    }
+}
+
+// ---------------------------------------------------------------- kernels
+
+// One serial kernel over `count` objects: the contiguous one when the views
+// are in contiguous form, otherwise the general or _P one.
+template <class A, class B, class D>
+QelStatus mulKernel(const Line& line, const Dims& dm, A a, B b, D d, int count) {
+  using T = ElemOf<D>;
+  constexpr bool contiguous = D::Object::contiguous;
+  const int n = contiguous               ? smallSizeOf(line.contiguousSizes, dm)
+                : line.flags & kOrSelect ? smallSizeByOr(dm)
+                                         : smallSizeOf(line.generalSizes, dm);
+  if (n) {
+    smallProducts(n, a, b, d, count);
+    return qelStatusOk;
+  }
+  const bool tile = contiguous && !(line.flags & kNoTile);
+  for (int o = 0; o < count; ++o) {
+    if constexpr (contiguous) {
+      if (tile) {
+        tileProduct<T>(a.object(o), b.object(o), d.object(o), dm.M, dm.N, dm.K);
+        continue;
+      }
+    }
+    loopProduct<T>(a.object(o), b.object(o), d.object(o), dm.M, dm.N, dm.K);
+  }
+  return qelStatusOk;
+}
+
+// A _L general kernel that is a loop calling the single shape's general kernel
+// (the same instantiation as qelmMul_mm and its kin) once per object.
+template <class A, class B, class D>
+QelStatus perObjectKernel(const Line& line, const Dims& dm, A a, B b, D d, int count) {
+  using OA = typename A::Object;
+  using OB = typename B::Object;
+  using OD = typename D::Object;
+  for (int o = 0; o < count; ++o)
+    mulKernel(line, dm, Single<OA>{a.object(o)}, Single<OB>{b.object(o)}, Single<OD>{d.object(o)}, 1);
+  return qelStatusOk;
+}
+
+// ---------------------------------------------------------------- front-end
+
+enum class Form { Std, L, P };
+
+// Serial below 2501 only for 32f standard contiguous kernels, 3601 for the other
+// contiguous ones, 1441 for every general and _P kernel.
+template <class T, Form F>
+constexpr int32_t contiguousLimit = F == Form::P                                   ? 1441
+                                    : std::is_same_v<T, float> && F == Form::Std ? 2501
+                                                                                   : 3601;
+constexpr int32_t generalLimit = 1441;
+
+// Checks N C Z M S R; the work figure counts every element touched, a single
+// operand once and an array operand `count` times.
+template <class T, Form F, bool PerObject, class A, class B, class D>
+QelStatus mulFront(const Line& line, A a, B b, D d, const Dims& dm, int count) {
+  CheckGroups g = checkViews(count, {dm.w1, dm.h1, dm.w2, dm.h2}, a, b, d);
+  g.match = dm.K == dm.K2;
+  if (QelStatus st = firstFailure("NCZMSR", g)) return st;
+
+  auto job = makeJob(
+      [line, dm](int share, void*, auto va, auto vb, auto vd) {
+        if constexpr (PerObject && !decltype(vd)::Object::contiguous)
+          return perObjectKernel(line, dm, va, vb, vd, share);
+        else
+          return mulKernel(line, dm, va, vb, vd, share);
+      },
+      a, b, d);
+  if constexpr (!A::isArray && !B::isArray) {
+    return runSerial(job, 1);
+  } else {
+    const Work e1 = Work(dm.w1) * dm.h1, e2 = Work(dm.w2) * dm.h2, ed = Work(dm.M) * dm.N;
+    const Work w = A::isArray && B::isArray ? (e1 + e2 + ed) * count
+                   : A::isArray             ? e2 + (e1 + ed) * count
+                                            : e1 + (e2 + ed) * count;
+    return runFirstKind(job, count, w, WorkLimit::serialBelow(contiguousLimit<T, F>),
+                        WorkLimit::serialBelow(generalLimit));
+  }
+}
+
+// ---------------------------------------------------------------- views of the exports
+
+template <class T>
+Single<Mat<const T>> one(const T* p, int s1, int s2) { return {{p, s1, s2}}; }
+template <class T>
+Single<Mat<T>> one(T* p, int s1, int s2) { return {{p, s1, s2}}; }
+template <class T>
+Single<MatP<const T>> oneP(const T* const* p, int shift, int rowLen) { return {{p, shift, rowLen}}; }
+template <class T>
+Single<MatP<T>> oneP(T* const* p, int shift, int rowLen) { return {{p, shift, rowLen}}; }
+template <class T>
+StridedArray<const T> array(const T* p, int s0, int s1, int s2) { return {p, s0, s1, s2}; }
+template <class T>
+StridedArray<T> array(T* p, int s0, int s1, int s2) { return {p, s0, s1, s2}; }
+template <class T>
+ListArray<const T> list(const T* const* p, int shift, int s1, int s2) { return {p, shift, s1, s2}; }
+template <class T>
+ListArray<T> list(T* const* p, int shift, int s1, int s2) { return {p, shift, s1, s2}; }
+template <class T>
+PointerArray<const T> arrayP(const T* const* p, int shift, int s0, int rowLen) { return {p, shift, s0, rowLen}; }
+template <class T>
+PointerArray<T> arrayP(T* const* p, int shift, int s0, int rowLen) { return {p, shift, s0, rowLen}; }
+
+template <class V>
+Single<Trans<V>> transposed(Single<V> s) { return {{s.v}}; }
+template <class A>
+TransArray<A> transposed(A a) { return {a}; }
+
+}  // namespace qel::mul
