@@ -523,6 +523,27 @@ TEST(LUBackSubst, InPlaceHoldsForFixedSizesOnly) {
   }
 }
 
+// Identity factors copy b; a zero diagonal is not looked at: status 0 and
+// a non-finite x.
+TEST(LUBackSubst, IdentityCopiesAndZeroDiagonalRunsOn) {
+  for (Shape s : {MV, MVA, MAVA})
+    for (int n : {1, 2, 4, 7}) {
+      Batch<float> f(n, n, 2), b(1, n, s == MV ? 1 : 2), x(1, n, s == MV ? 1 : 2);
+      b.fillRandom(n);
+      std::vector<Qel32s> ix;
+      for (int o = 0; o < 2; ++o)
+        for (int i = 0; i < n; ++i) {
+          ix.push_back(i);
+          for (int j = 0; j < n; ++j) f.at(o, i, j) = i == j;
+        }
+      ASSERT_EQ(solve(s, Std, f, ix.data(), b, x, n), 0);
+      EXPECT_TRUE(qt::sameBits(x.values(), b.values())) << s << " " << n;
+      f.at(0, n - 1, n - 1) = 0;
+      ASSERT_EQ(solve(s, Std, f, ix.data(), b, x, n), 0);
+      EXPECT_FALSE(std::isfinite(x.at(0, 0, n - 1))) << s << " " << n;
+    }
+}
+
 // Argument checks in their order; a failed check writes nothing.
 TEST(LUFamily, ChecksInOrderAndWriteNothing) {
   Batch<float> a(4, 4, 2), d(4, 4, 2), b(1, 4, 2), x(1, 4, 2);
