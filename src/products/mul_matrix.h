@@ -102,10 +102,12 @@ struct RowBlock {
   typename S::V v[N][R];
 };
 
-// Op1 of one product as scalars.
+// Op1 of a single operand, read once and kept as scalars.
 template <class T, int N>
 struct ScalarBlock {
+  static constexpr bool contiguous = false;
   T e[N][N];
+  T at(int i, int k) const { return e[i][k]; }
 };
 
 template <class T, int N, class O>
@@ -135,60 +137,72 @@ inline RowBlock<T, N> readRows(const O& o) {
   return b;
 }
 
+// op1(i, 0..N-1) as splatted registers: a contiguous Qel32f row is loaded once
+// and spread lane by lane, anything else is read element by element.
 template <class T, int N, class O>
-inline void writeRows(const O& o, const RowBlock<T, N>& c) {
+inline void splatRow(const O& o, int i, typename Lanes<T>::V (&out)[N]) {
+  using S = Lanes<T>;
+  if constexpr (rowsContiguous<O> && S::L == 4) {
+    using B = RowBlock<T, N>;
+    const T* p = o.row(i);
+    unroll<B::R>([&](auto r) {
+      const auto part = S::template load<B::template width<r>>(p + r * S::L);
+      unroll<B::template width<r>>([&](auto l) { out[r * S::L + l] = S::template splatLane<l>(part); });
+    });
+  } else {
+    unroll<N>([&](auto k) { out[k] = S::splat(o.at(i, k)); });
+  }
+}
+
+template <class T, int N, class O>
+inline void writeRow(const O& o, int i, const typename Lanes<T>::V (&c)[RowBlock<T, N>::R]) {
   using S = Lanes<T>;
   using B = RowBlock<T, N>;
   if constexpr (rowsContiguous<O>) {
-    unroll<N>([&](auto i) {
-      T* p = o.row(i);
-      unroll<B::R>([&](auto r) { S::template store<B::template width<r>>(p + r * S::L, c.v[i][r]); });
-    });
+    T* p = o.row(i);
+    unroll<B::R>([&](auto r) { S::template store<B::template width<r>>(p + r * S::L, c[r]); });
   } else {
-    alignas(16) T buf[N][B::R * S::L];
-    unroll<N>([&](auto i) {
-      unroll<B::R>([&](auto r) { S::template store<S::L>(&buf[i][r * S::L], c.v[i][r]); });
-    });
-    unroll<N>([&](auto i) { unroll<N>([&](auto j) { o.at(i, j) = buf[i][j]; }); });
+    alignas(16) T buf[B::R * S::L];
+    unroll<B::R>([&](auto r) { S::template store<S::L>(&buf[r * S::L], c[r]); });
+    unroll<N>([&](auto j) { o.at(i, j) = buf[j]; });
   }
 }
 
 // Row i of the result is op1(i, 0) * row 0 + op1(i, 1) * row 1 + ..., from the
-// left: the same sum in the same order for every element of the row.
-template <class T, int N>
-inline RowBlock<T, N> productRows(const ScalarBlock<T, N>& a, const RowBlock<T, N>& b) {
+// left: the same sum in the same order for every element of the row. Row i is
+// stored once formed, after its op1 row has been read.
+template <class T, int N, class O1, class OD>
+inline void productRows(const O1& a, const RowBlock<T, N>& b, const OD& d) {
   using S = Lanes<T>;
   using B = RowBlock<T, N>;
-  B c;
   unroll<N>([&](auto i) {
-    const auto a0 = S::splat(a.e[i][0]);
-    unroll<B::R>([&](auto r) { c.v[i][r] = S::mul(a0, b.v[0][r]); });
+    typename S::V ai[N], c[B::R];
+    splatRow<T, N>(a, i, ai);
+    unroll<B::R>([&](auto r) { c[r] = S::mul(ai[0], b.v[0][r]); });
     unroll<N - 1>([&](auto km1) {
       constexpr int k = km1 + 1;
-      const auto ak = S::splat(a.e[i][k]);
-      unroll<B::R>([&](auto r) { c.v[i][r] = S::add(c.v[i][r], S::mul(ak, b.v[k][r])); });
+      unroll<B::R>([&](auto r) { c[r] = S::add(c[r], S::mul(ai[k], b.v[k][r])); });
     });
+    writeRow<T, N>(d, i, c);
   });
-  return c;
 }
 
 // Each object in order. A single operand is read once ahead of the loop and
-// kept; all of op2 is read before the first store of an object.
+// kept; all of op2 is read before the first store of an object. Flattened: the
+// straight-line code only exists once every helper is inlined.
 template <int N, class A, class B, class D>
-void smallProducts(A a, B b, D d, int count) {
+[[gnu::flatten]] void smallProducts(A a, B b, D d, int count) {
   using T = ElemOf<D>;
-  [[maybe_unused]] RowBlock<T, N> heldB;
-  [[maybe_unused]] ScalarBlock<T, N> heldA;
-  if constexpr (!B::isArray) heldB = readRows<T, N>(b.object(0));
-  if constexpr (!A::isArray) heldA = readScalars<T, N>(a.object(0));
-  for (int n = 0; n < count; ++n) {
-    RowBlock<T, N> rows;
-    ScalarBlock<T, N> scalars;
-    if constexpr (B::isArray) rows = readRows<T, N>(b.object(n));
-    else rows = heldB;
-    if constexpr (A::isArray) scalars = readScalars<T, N>(a.object(n));
-    else scalars = heldA;
-    writeRows<T, N>(d.object(n), productRows<T, N>(scalars, rows));
+  if constexpr (!A::isArray && !B::isArray) {
+    productRows<T, N>(readScalars<T, N>(a.object(0)), readRows<T, N>(b.object(0)), d.object(0));
+  } else if constexpr (!B::isArray) {
+    const RowBlock<T, N> held = readRows<T, N>(b.object(0));
+    for (int n = 0; n < count; ++n) productRows<T, N>(a.object(n), held, d.object(n));
+  } else if constexpr (!A::isArray) {
+    const ScalarBlock<T, N> held = readScalars<T, N>(a.object(0));
+    for (int n = 0; n < count; ++n) productRows<T, N>(held, readRows<T, N>(b.object(n)), d.object(n));
+  } else {
+    for (int n = 0; n < count; ++n) productRows<T, N>(a.object(n), readRows<T, N>(b.object(n)), d.object(n));
   }
 }
 
@@ -258,7 +272,7 @@ inline void tileBlock(const OA& a, const OB& b, const OD& d, int i, int j, int K
 // Tiles of 4 rows by 2 columns, then the last column of those rows, then the
 // 1, 2 or 3 remaining rows one column at a time.
 template <class T, class OA, class OB, class OD>
-void tileProduct(const OA& a, const OB& b, const OD& d, int M, int N, int K) {
+[[gnu::flatten]] void tileProduct(const OA& a, const OB& b, const OD& d, int M, int N, int K) {
   const int m4 = M & ~3, n2 = N & ~1;
   for (int i = 0; i < m4; i += 4)
     for (int j = 0; j < n2; j += 2) tileBlock<4, 2, T>(a, b, d, i, j, K);
