@@ -168,23 +168,52 @@ inline void writeRow(const O& o, int i, const typename Lanes<T>::V (&c)[RowBlock
   }
 }
 
+// Op2 rows read in place from a contiguous matrix, register by register.
+template <class T, int N, class O>
+struct RowsInPlace {
+  const O& o;
+  template <int r>
+  typename Lanes<T>::V part(int k) const {
+    return Lanes<T>::template load<RowBlock<T, N>::template width<r>>(o.row(k) + r * Lanes<T>::L);
+  }
+};
+template <class T, int N>
+struct RowsHeld {
+  const RowBlock<T, N>& b;
+  template <int r>
+  typename Lanes<T>::V part(int k) const { return b.v[k][r]; }
+};
+
 // Row i of the result is op1(i, 0) * row 0 + op1(i, 1) * row 1 + ..., from the
 // left: the same sum in the same order for every element of the row. Row i is
 // stored once formed, after its op1 row has been read.
-template <class T, int N, class O1, class OD>
-inline void productRows(const O1& a, const RowBlock<T, N>& b, const OD& d) {
+template <class T, int N, class O1, class Rows, class OD>
+inline void productRows(const O1& a, const Rows& b, const OD& d) {
   using S = Lanes<T>;
   using B = RowBlock<T, N>;
   unroll<N>([&](auto i) {
     typename S::V ai[N], c[B::R];
     splatRow<T, N>(a, i, ai);
-    unroll<B::R>([&](auto r) { c[r] = S::mul(ai[0], b.v[0][r]); });
+    unroll<B::R>([&](auto r) { c[r] = S::mul(ai[0], b.template part<r>(0)); });
     unroll<N - 1>([&](auto km1) {
       constexpr int k = km1 + 1;
-      unroll<B::R>([&](auto r) { c[r] = S::add(c[r], S::mul(ai[k], b.v[k][r])); });
+      unroll<B::R>([&](auto r) { c[r] = S::add(c[r], S::mul(ai[k], b.template part<r>(k))); });
     });
     writeRow<T, N>(d, i, c);
   });
+}
+template <class T, int N, class O1, class OD>
+inline void productRows(const O1& a, const RowBlock<T, N>& b, const OD& d) {
+  productRows<T, N>(a, RowsHeld<T, N>{b}, d);
+}
+
+// Op2 of one object: sizes 3 and 4 (and every non-contiguous op2) are read
+// whole into registers before the first store; the larger contiguous rows
+// are read in place as the products need them.
+template <class T, int N, class O1, class O2, class OD>
+inline void productObject(const O1& a, const O2& b, const OD& d) {
+  if constexpr (N >= 5 && rowsContiguous<O2>) productRows<T, N>(a, RowsInPlace<T, N, O2>{b}, d);
+  else productRows<T, N>(a, readRows<T, N>(b), d);
 }
 
 // Each object in order. A single operand is read once ahead of the loop and
@@ -200,9 +229,9 @@ template <int N, class A, class B, class D>
     for (int n = 0; n < count; ++n) productRows<T, N>(a.object(n), held, d.object(n));
   } else if constexpr (!A::isArray) {
     const ScalarBlock<T, N> held = readScalars<T, N>(a.object(0));
-    for (int n = 0; n < count; ++n) productRows<T, N>(held, readRows<T, N>(b.object(n)), d.object(n));
+    for (int n = 0; n < count; ++n) productObject<T, N>(held, b.object(n), d.object(n));
   } else {
-    for (int n = 0; n < count; ++n) productRows<T, N>(a.object(n), readRows<T, N>(b.object(n)), d.object(n));
+    for (int n = 0; n < count; ++n) productObject<T, N>(a.object(n), b.object(n), d.object(n));
   }
 }
 
