@@ -8,6 +8,7 @@
 
 #include <smmintrin.h>
 
+#include <algorithm>
 #include <type_traits>
 
 namespace qel {
@@ -25,50 +26,164 @@ struct SubOp {
   static __m128d apply(__m128d a, __m128d b) { return _mm_sub_pd(a, b); }
 };
 
-// ------------------------------------------------ 32f rows held in SSE registers
+// ------------------------------------------------ objects held in SSE registers
 //
-// A contiguous Qel32f row of N elements is done as four-element units plus a
-// two- and a one-element remainder, so no byte outside the row is read or written.
-// Pitch16 fixes the row distance to 16 bytes (a packed array); AlignA marks
-// operand A's rows as 16-byte aligned, AlignAll every operand's.
+// A contiguous R by N object is loaded into registers as rows of vector units
+// (four Qel32f or two Qel64f), the last unit of a row filled from smaller
+// parts, so no byte outside the row is read or written. An operand read as its
+// transpose is loaded by columns: a 4 by 4 Qel32f object is transposed by
+// shuffling, other sizes gather their columns. A single operand is loaded once,
+// before the object loop. Pitch fixes the row distance (16 for a packed array,
+// 0 for the real one); AlignA marks operand A's rows as 16-byte aligned,
+// AlignAll every operand's.
 
-template <bool Aligned>
-inline __m128 load4(const float* p) { return Aligned ? _mm_load_ps(p) : _mm_loadu_ps(p); }
-template <bool Aligned>
-inline void store4(float* p, __m128 v) { Aligned ? _mm_store_ps(p, v) : _mm_storeu_ps(p, v); }
-inline __m128 load2(const float* p) {
-  return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p)));
-}
-inline void store2(float* p, __m128 v) { _mm_store_sd(reinterpret_cast<double*>(p), _mm_castps_pd(v)); }
+template <class T>
+struct Lanes;
 
-template <class Op, int N, bool AlignA, bool AlignAll>
-inline void rowSse(const float* a, const float* b, float* d) {
-  int j = 0;
-  for (; j + 4 <= N; j += 4)
-    store4<AlignAll>(d + j, Op::apply(load4<AlignA || AlignAll>(a + j), load4<AlignAll>(b + j)));
-  if constexpr (N % 4 >= 2) {
-    store2(d + j, Op::apply(load2(a + j), load2(b + j)));
-    j += 2;
+template <>
+struct Lanes<float> {
+  using V = __m128;
+  static constexpr int width = 4;
+  template <bool Aligned>
+  static V load(const float* p) { return Aligned ? _mm_load_ps(p) : _mm_loadu_ps(p); }
+  template <bool Aligned>
+  static void store(float* p, V v) { Aligned ? _mm_store_ps(p, v) : _mm_storeu_ps(p, v); }
+  static V load2(const float* p) { return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p))); }
+  static void store2(float* p, V v) { _mm_store_sd(reinterpret_cast<double*>(p), _mm_castps_pd(v)); }
+  template <int Rest>
+  static V loadRest(const float* p) {
+    if constexpr (Rest == 1) return _mm_load_ss(p);
+    else if constexpr (Rest == 2) return load2(p);
+    else return _mm_movelh_ps(load2(p), _mm_load_ss(p + 2));
   }
-  if constexpr (N % 2 == 1)
-    _mm_store_ss(d + j, Op::apply(_mm_load_ss(a + j), _mm_load_ss(b + j)));
+  template <int Rest>
+  static void storeRest(float* p, V v) {
+    if constexpr (Rest == 1) {
+      _mm_store_ss(p, v);
+    } else {
+      store2(p, v);
+      if constexpr (Rest == 3) _mm_store_ss(p + 2, _mm_movehl_ps(v, v));
+    }
+  }
+  // Element i of `n` consecutive stored rows, one per lane.
+  template <int n>
+  static V gather(const float* const* rows, int i) {
+    alignas(16) float lanes[4] = {0, 0, 0, 0};
+    for (int l = 0; l < n; ++l) lanes[l] = rows[l][i];
+    return _mm_load_ps(lanes);
+  }
+};
+
+template <>
+struct Lanes<double> {
+  using V = __m128d;
+  static constexpr int width = 2;
+  template <bool Aligned>
+  static V load(const double* p) { return Aligned ? _mm_load_pd(p) : _mm_loadu_pd(p); }
+  template <bool Aligned>
+  static void store(double* p, V v) { Aligned ? _mm_store_pd(p, v) : _mm_storeu_pd(p, v); }
+  template <int Rest>
+  static V loadRest(const double* p) { return _mm_load_sd(p); }
+  template <int Rest>
+  static void storeRest(double* p, V v) { _mm_store_sd(p, v); }
+  template <int n>
+  static V gather(const double* const* rows, int i) {
+    if constexpr (n == 2) return _mm_loadh_pd(_mm_load_sd(rows[0] + i), rows[1] + i);
+    else return _mm_load_sd(rows[0] + i);
+  }
+};
+
+template <class T, int R, int N>
+struct Block {
+  using L = Lanes<T>;
+  static constexpr int units = (N + L::width - 1) / L::width;
+  typename L::V v[R][units];
+};
+
+template <class T, int N, bool Aligned>
+inline void loadRow(typename Lanes<T>::V* u, const T* p) {
+  using L = Lanes<T>;
+  constexpr int W = L::width;
+  for (int j = 0; j + W <= N; j += W) u[j / W] = L::template load<Aligned>(p + j);
+  if constexpr (N % W != 0) u[N / W] = L::template loadRest<N % W>(p + N / W * W);
+}
+template <class T, int N, bool Aligned>
+inline void storeRow(T* p, const typename Lanes<T>::V* u) {
+  using L = Lanes<T>;
+  constexpr int W = L::width;
+  for (int j = 0; j + W <= N; j += W) L::template store<Aligned>(p + j, u[j / W]);
+  if constexpr (N % W != 0) L::template storeRest<N % W>(p + N / W * W, u[N / W]);
+}
+
+template <int Pitch, class M>
+inline auto rowAt(const M& m, int i) {
+  if constexpr (Pitch != 0) return byteAt(m.base, i * Pitch);
+  else return m.row(i);
+}
+
+template <class O>
+constexpr bool isTransposedObject = requires(O o) { o.v; };
+
+template <class T, int R, int N, int Pitch, bool Aligned, class O>
+inline Block<T, R, N> loadBlock(const O& o) {
+  using L = Lanes<T>;
+  Block<T, R, N> blk;
+  if constexpr (isTransposedObject<O>) {
+    // Row i of the result is column i of the stored matrix.
+    if constexpr (std::is_same_v<T, float> && N == 4) {
+      __m128 r0 = _mm_loadu_ps(rowAt<Pitch>(o.v, 0)), r1 = _mm_loadu_ps(rowAt<Pitch>(o.v, 1));
+      __m128 r2 = _mm_loadu_ps(rowAt<Pitch>(o.v, 2)), r3 = _mm_loadu_ps(rowAt<Pitch>(o.v, 3));
+      _MM_TRANSPOSE4_PS(r0, r1, r2, r3);
+      blk.v[0][0] = r0, blk.v[1][0] = r1, blk.v[2][0] = r2, blk.v[3][0] = r3;
+    } else {
+      const T* stored[N];
+      for (int k = 0; k < N; ++k) stored[k] = rowAt<Pitch>(o.v, k);
+      for (int i = 0; i < R; ++i)
+        for (int u = 0; u < Block<T, R, N>::units; ++u)
+          blk.v[i][u] = (u + 1) * L::width <= N
+                            ? L::template gather<L::width>(stored + u * L::width, i)
+                            : L::template gather<(N % L::width ? N % L::width : L::width)>(
+                                  stored + u * L::width, i);
+    }
+  } else {
+    for (int i = 0; i < R; ++i) loadRow<T, N, Aligned>(blk.v[i], rowAt<Pitch>(o, i));
+  }
+  return blk;
 }
 
 template <class Op, int R, int N, int Pitch, bool AlignA, bool AlignAll, class A, class B, class D>
 void objectsSse(A a, B b, D d, int count) {
+  using T = typename D::Object::Elem;
+  using Blk = Block<T, R, N>;
+  // Single operands go to registers (or their spill slots) once.
+  Blk heldA{}, heldB{};
+  if constexpr (!A::isArray) heldA = loadBlock<T, R, N, Pitch, AlignA || AlignAll>(a.object(0));
+  if constexpr (!B::isArray) heldB = loadBlock<T, R, N, Pitch, AlignAll>(b.object(0));
   for (int n = 0; n < count; ++n) {
-    const auto ao = a.object(n);
-    const auto bo = b.object(n);
+    Blk x, y;
+    if constexpr (A::isArray) x = loadBlock<T, R, N, Pitch, AlignA || AlignAll>(a.object(n));
+    else x = heldA;
+    if constexpr (B::isArray) y = loadBlock<T, R, N, Pitch, AlignAll>(b.object(n));
+    else y = heldB;
     const auto dobj = d.object(n);
     for (int i = 0; i < R; ++i) {
-      if constexpr (Pitch != 0)
-        rowSse<Op, N, AlignA, AlignAll>(byteAt(ao.base, i * Pitch), byteAt(bo.base, i * Pitch),
-                                        byteAt(dobj.base, i * Pitch));
-      else
-        rowSse<Op, N, AlignA, AlignAll>(ao.row(i), bo.row(i), dobj.row(i));
+      typename Lanes<T>::V row[Blk::units];
+      for (int u = 0; u < Blk::units; ++u) row[u] = Op::apply(x.v[i][u], y.v[i][u]);
+      storeRow<T, N, AlignAll>(rowAt<Pitch>(dobj, i), row);
     }
   }
 }
+
+// Arrays whose objects have addresses of their own (_L), and the object
+// distance of a strided array, through a transposing adapter.
+template <class V>
+struct IsObjectList : std::false_type {};
+template <class T, bool C>
+struct IsObjectList<ListArray<T, C>> : std::true_type {};
+template <class A>
+struct IsObjectList<TransArray<A>> : IsObjectList<A> {};
+template <class V>
+constexpr bool isObjectList = IsObjectList<V>::value;
 
 inline bool multipleOf16(const void* p) { return (reinterpret_cast<uintptr_t>(p) & 15) == 0; }
 inline bool multipleOf16(int32_t s) { return (s & 15) == 0; }
@@ -83,16 +198,22 @@ struct Alignment {
 
 template <class V>
 inline void noteAlignment(Alignment& al, const V& v, bool first) {
-  const auto o = v.object(0);
+  const auto obj = v.object(0);
+  const auto& o = [&]() -> const auto& {
+    if constexpr (isTransposedObject<decltype(obj)>) return obj.v;
+    else return obj;
+  }();
   al.pointers = al.pointers && multipleOf16(o.base);
   al.rows = al.rows && multipleOf16(o.s1);
   al.rowOr |= o.s1;
-  if constexpr (requires { v.s0; }) {
+  if constexpr (requires { v.a.s0; }) {
+    (first ? al.firstStride0 : al.otherStride0) = multipleOf16(v.a.s0);
+  } else if constexpr (requires { v.s0; }) {
     (first ? al.firstStride0 : al.otherStride0) = multipleOf16(v.s0);
   }
 }
 
-// The unrolled sizes of the 32f contiguous kernels. A vector of 3 to 6
+// The unrolled sizes of the contiguous kernels. A vector of 3 to 6
 // elements takes aligned units when every base and object distance is a
 // multiple of 16. A square matrix:
 //   3 by 3  packed rows at a pitch of 16, or the same sums at the real pitch;
@@ -100,8 +221,6 @@ inline void noteAlignment(Alignment& al, const V& v, bool first) {
 //   5 by 5  unaligned, four elements and one per row;
 //   6 by 6  aligned loads of the first operand, or unaligned. The destination's
 //           object distance is not tested, so its later objects may be unaligned.
-template <class V>
-constexpr bool isObjectList = V::isArray && !requires(V v) { v.s0; };
 
 template <class Op, int R, int N, class A, class B, class D>
 void unrolledSse(A a, B b, D d, int count) {
@@ -139,10 +258,12 @@ void unrolledSse(A a, B b, D d, int count) {
 
 // ------------------------------------------------ generic forms
 
-template <class V>
-constexpr bool isContiguousF32Rows =
-    std::is_same_v<typename V::Object, Mat<const float, true>> ||
-    std::is_same_v<typename V::Object, Mat<float, true>>;
+// Operands whose objects are contiguous rows (read plainly or transposed).
+template <class V, class T = typename V::Object::Elem>
+constexpr bool isContiguousRows =
+    std::is_same_v<typename V::Object, Mat<const T, true>> ||
+    std::is_same_v<typename V::Object, Mat<T, true>> ||
+    std::is_same_v<typename V::Object, Trans<Mat<const T, true>>>;
 
 // A single operand read once into a local block, before the object loop.
 template <class T, int R, int N>
@@ -188,16 +309,55 @@ void unrolledGeneric(A a, B b, D d, int count) {
   }
 }
 
+// Arrays packed without any gap (rows back to back, objects back to back) are
+// one long run of elements: the whole call is a single forward pass in vector
+// units. Every element still gets its one operation.
+template <class V>
+constexpr bool isStridedContiguous =
+    std::is_same_v<V, StridedArray<const typename V::Object::Elem, true>> ||
+    std::is_same_v<V, StridedArray<typename V::Object::Elem, true>>;
+
+template <class V>
+inline bool isDense(const V& v, int width, int height) {
+  const int32_t e = elemSize<typename V::Object::Elem>;
+  return (height == 1 || v.s1 == width * e) && v.s0 == height * width * e;
+}
+
+template <class Op, class T>
+void flatRun(const T* a, const T* b, T* d, size_t n) {
+  using L = Lanes<T>;
+  constexpr size_t W = L::width;
+  size_t k = 0;
+  // Four units a pass, all loaded before any is stored: with dst equal to a
+  // source each element is still read before it is written.
+  for (; k + 4 * W <= n; k += 4 * W) {
+    typename L::V r[4];
+    for (size_t u = 0; u < 4; ++u)
+      r[u] = Op::apply(L::template load<false>(a + k + u * W), L::template load<false>(b + k + u * W));
+    for (size_t u = 0; u < 4; ++u) L::template store<false>(d + k + u * W, r[u]);
+  }
+  for (; k + W <= n; k += W)
+    L::template store<false>(d + k, Op::apply(L::template load<false>(a + k), L::template load<false>(b + k)));
+  for (; k < n; ++k) d[k] = Op::apply(a[k], b[k]);
+}
+
 // The whole kernel over arrays. Square matrices of 3 to 6 (Rows = 0: height
 // equal to width) or vectors of 3 to 6 elements (Rows = 1) are unrolled; every
 // other size is a plain loop with objects outermost, then rows, then elements.
 template <class Op, int Rows, class A, class B, class D>
 QelStatus elementwise(A a, B b, D d, int width, int height, int count) {
+  if constexpr (isStridedContiguous<A> && isStridedContiguous<B> && isStridedContiguous<D>) {
+    const int rows = Rows == 1 ? 1 : height;
+    if (isDense(a, width, rows) && isDense(b, width, rows) && isDense(d, width, rows)) {
+      flatRun<Op>(a.base, b.base, d.base, size_t(width) * size_t(rows) * size_t(count));
+      return qelStatusOk;
+    }
+  }
   if ((Rows == 1 || width == height) && width >= 3 && width <= 6) {
     auto unrolled = [&](auto size) {
       constexpr int N = decltype(size)::value;
       constexpr int R = Rows == 1 ? 1 : N;
-      if constexpr (isContiguousF32Rows<A> && isContiguousF32Rows<B> && isContiguousF32Rows<D>)
+      if constexpr (isContiguousRows<A> && isContiguousRows<B> && isContiguousRows<D>)
         unrolledSse<Op, R, N>(a, b, d, count);
       else
         unrolledGeneric<Op, R, N>(a, b, d, count);
