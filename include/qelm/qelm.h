@@ -557,6 +557,297 @@ QelStatus qelmSub_tata_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int sr
                              int height, int count);
 
 /* ---- Add and Sub over vectors and constants. */
+/* A constant is passed by value after the vector it meets, also where the shape
+ * names it first: Sub_cv takes the arguments of Sub_vc and forms val - src. */
+QelStatus qelmAdd_vv_32f(const Qel32f* src1, int src1Stride2, const Qel32f* src2, int src2Stride2,
+                         Qel32f* dst, int dstStride2, int len);
+QelStatus qelmAdd_vv_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, QEL_SRC_LIST(Qel32f) src2,
+                           int src2RoiShift, QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int len);
+QelStatus qelmAdd_vv_64f(const Qel64f* src1, int src1Stride2, const Qel64f* src2, int src2Stride2,
+                         Qel64f* dst, int dstStride2, int len);
+QelStatus qelmAdd_vv_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, QEL_SRC_LIST(Qel64f) src2,
+                           int src2RoiShift, QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int len);
+QelStatus qelmAdd_vc_32f(const Qel32f* src, int srcStride2, Qel32f val, Qel32f* dst,
+                         int dstStride2, int len);
+QelStatus qelmAdd_vc_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32f val,
+                           QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int len);
+QelStatus qelmAdd_vc_64f(const Qel64f* src, int srcStride2, Qel64f val, Qel64f* dst,
+                         int dstStride2, int len);
+QelStatus qelmAdd_vc_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, Qel64f val,
+                           QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int len);
+QelStatus qelmAdd_vav_32f(const Qel32f* src1, int src1Stride0, int src1Stride2, const Qel32f* src2,
+                          int src2Stride2, Qel32f* dst, int dstStride0, int dstStride2, int len,
+                          int count);
+QelStatus qelmAdd_vav_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride2,
+                            const Qel32f* src2, int src2Stride2, QEL_DST_LIST(Qel32f) dst,
+                            int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmAdd_vav_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, QEL_DST_LIST(Qel32f) dst,
+                            int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmAdd_vav_64f(const Qel64f* src1, int src1Stride0, int src1Stride2, const Qel64f* src2,
+                          int src2Stride2, Qel64f* dst, int dstStride0, int dstStride2, int len,
+                          int count);
+QelStatus qelmAdd_vav_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride2,
+                            const Qel64f* src2, int src2Stride2, QEL_DST_LIST(Qel64f) dst,
+                            int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmAdd_vav_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, QEL_DST_LIST(Qel64f) dst,
+                            int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmAdd_vac_32f(const Qel32f* src, int srcStride0, int srcStride2, Qel32f val,
+                          Qel32f* dst, int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmAdd_vac_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride2, Qel32f val,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int len,
+                            int count);
+QelStatus qelmAdd_vac_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, Qel32f val,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int len,
+                            int count);
+QelStatus qelmAdd_vac_64f(const Qel64f* src, int srcStride0, int srcStride2, Qel64f val,
+                          Qel64f* dst, int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmAdd_vac_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride2, Qel64f val,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int len,
+                            int count);
+QelStatus qelmAdd_vac_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, Qel64f val,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int len,
+                            int count);
+QelStatus qelmAdd_vca_32f(const Qel32f* src, int srcStride2, const Qel32f* val, int valStride0,
+                          Qel32f* dst, int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmAdd_vca_32f_L(const Qel32f* src, int srcStride2, QEL_SRC_LIST(Qel32f) val,
+                            int valRoiShift, QEL_DST_LIST(Qel32f) dst, int dstRoiShift,
+                            int dstStride2, int len, int count);
+QelStatus qelmAdd_vca_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, const Qel32f* val,
+                            int valStride0, QEL_DST_LIST(Qel32f) dst, int dstRoiShift,
+                            int dstStride0, int len, int count);
+QelStatus qelmAdd_vca_64f(const Qel64f* src, int srcStride2, const Qel64f* val, int valStride0,
+                          Qel64f* dst, int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmAdd_vca_64f_L(const Qel64f* src, int srcStride2, QEL_SRC_LIST(Qel64f) val,
+                            int valRoiShift, QEL_DST_LIST(Qel64f) dst, int dstRoiShift,
+                            int dstStride2, int len, int count);
+QelStatus qelmAdd_vca_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, const Qel64f* val,
+                            int valStride0, QEL_DST_LIST(Qel64f) dst, int dstRoiShift,
+                            int dstStride0, int len, int count);
+QelStatus qelmAdd_vava_32f(const Qel32f* src1, int src1Stride0, int src1Stride2,
+                           const Qel32f* src2, int src2Stride0, int src2Stride2, Qel32f* dst,
+                           int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmAdd_vava_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride2,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride2,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int len,
+                             int count);
+QelStatus qelmAdd_vava_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int len,
+                             int count);
+QelStatus qelmAdd_vava_64f(const Qel64f* src1, int src1Stride0, int src1Stride2,
+                           const Qel64f* src2, int src2Stride0, int src2Stride2, Qel64f* dst,
+                           int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmAdd_vava_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride2,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride2,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int len,
+                             int count);
+QelStatus qelmAdd_vava_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int len,
+                             int count);
+QelStatus qelmAdd_vaca_32f(const Qel32f* src, int srcStride0, int srcStride2, const Qel32f* val,
+                           int valStride0, Qel32f* dst, int dstStride0, int dstStride2, int len,
+                           int count);
+QelStatus qelmAdd_vaca_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride2,
+                             QEL_SRC_LIST(Qel32f) val, int valRoiShift, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmAdd_vaca_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0,
+                             const Qel32f* val, int valStride0, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmAdd_vaca_64f(const Qel64f* src, int srcStride0, int srcStride2, const Qel64f* val,
+                           int valStride0, Qel64f* dst, int dstStride0, int dstStride2, int len,
+                           int count);
+QelStatus qelmAdd_vaca_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride2,
+                             QEL_SRC_LIST(Qel64f) val, int valRoiShift, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmAdd_vaca_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0,
+                             const Qel64f* val, int valStride0, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmSub_vv_32f(const Qel32f* src1, int src1Stride2, const Qel32f* src2, int src2Stride2,
+                         Qel32f* dst, int dstStride2, int len);
+QelStatus qelmSub_vv_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, QEL_SRC_LIST(Qel32f) src2,
+                           int src2RoiShift, QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int len);
+QelStatus qelmSub_vv_64f(const Qel64f* src1, int src1Stride2, const Qel64f* src2, int src2Stride2,
+                         Qel64f* dst, int dstStride2, int len);
+QelStatus qelmSub_vv_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, QEL_SRC_LIST(Qel64f) src2,
+                           int src2RoiShift, QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int len);
+QelStatus qelmSub_vc_32f(const Qel32f* src, int srcStride2, Qel32f val, Qel32f* dst,
+                         int dstStride2, int len);
+QelStatus qelmSub_vc_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32f val,
+                           QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int len);
+QelStatus qelmSub_vc_64f(const Qel64f* src, int srcStride2, Qel64f val, Qel64f* dst,
+                         int dstStride2, int len);
+QelStatus qelmSub_vc_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, Qel64f val,
+                           QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int len);
+QelStatus qelmSub_cv_32f(const Qel32f* src, int srcStride2, Qel32f val, Qel32f* dst,
+                         int dstStride2, int len);
+QelStatus qelmSub_cv_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32f val,
+                           QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int len);
+QelStatus qelmSub_cv_64f(const Qel64f* src, int srcStride2, Qel64f val, Qel64f* dst,
+                         int dstStride2, int len);
+QelStatus qelmSub_cv_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, Qel64f val,
+                           QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int len);
+QelStatus qelmSub_vav_32f(const Qel32f* src1, int src1Stride0, int src1Stride2, const Qel32f* src2,
+                          int src2Stride2, Qel32f* dst, int dstStride0, int dstStride2, int len,
+                          int count);
+QelStatus qelmSub_vav_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride2,
+                            const Qel32f* src2, int src2Stride2, QEL_DST_LIST(Qel32f) dst,
+                            int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmSub_vav_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, QEL_DST_LIST(Qel32f) dst,
+                            int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmSub_vav_64f(const Qel64f* src1, int src1Stride0, int src1Stride2, const Qel64f* src2,
+                          int src2Stride2, Qel64f* dst, int dstStride0, int dstStride2, int len,
+                          int count);
+QelStatus qelmSub_vav_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride2,
+                            const Qel64f* src2, int src2Stride2, QEL_DST_LIST(Qel64f) dst,
+                            int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmSub_vav_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, QEL_DST_LIST(Qel64f) dst,
+                            int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmSub_vva_32f(const Qel32f* src1, int src1Stride2, const Qel32f* src2, int src2Stride0,
+                          int src2Stride2, Qel32f* dst, int dstStride0, int dstStride2, int len,
+                          int count);
+QelStatus qelmSub_vva_32f_L(const Qel32f* src1, int src1Stride2, QEL_SRC_LIST(Qel32f) src2,
+                            int src2RoiShift, int src2Stride2, QEL_DST_LIST(Qel32f) dst,
+                            int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmSub_vva_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, QEL_SRC_LIST(Qel32f) src2,
+                            int src2RoiShift, int src2Stride0, QEL_DST_LIST(Qel32f) dst,
+                            int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmSub_vva_64f(const Qel64f* src1, int src1Stride2, const Qel64f* src2, int src2Stride0,
+                          int src2Stride2, Qel64f* dst, int dstStride0, int dstStride2, int len,
+                          int count);
+QelStatus qelmSub_vva_64f_L(const Qel64f* src1, int src1Stride2, QEL_SRC_LIST(Qel64f) src2,
+                            int src2RoiShift, int src2Stride2, QEL_DST_LIST(Qel64f) dst,
+                            int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmSub_vva_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, QEL_SRC_LIST(Qel64f) src2,
+                            int src2RoiShift, int src2Stride0, QEL_DST_LIST(Qel64f) dst,
+                            int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmSub_vac_32f(const Qel32f* src, int srcStride0, int srcStride2, Qel32f val,
+                          Qel32f* dst, int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmSub_vac_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride2, Qel32f val,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int len,
+                            int count);
+QelStatus qelmSub_vac_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, Qel32f val,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int len,
+                            int count);
+QelStatus qelmSub_vac_64f(const Qel64f* src, int srcStride0, int srcStride2, Qel64f val,
+                          Qel64f* dst, int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmSub_vac_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride2, Qel64f val,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int len,
+                            int count);
+QelStatus qelmSub_vac_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, Qel64f val,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int len,
+                            int count);
+QelStatus qelmSub_vca_32f(const Qel32f* src, int srcStride2, const Qel32f* val, int valStride0,
+                          Qel32f* dst, int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmSub_vca_32f_L(const Qel32f* src, int srcStride2, QEL_SRC_LIST(Qel32f) val,
+                            int valRoiShift, QEL_DST_LIST(Qel32f) dst, int dstRoiShift,
+                            int dstStride2, int len, int count);
+QelStatus qelmSub_vca_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, const Qel32f* val,
+                            int valStride0, QEL_DST_LIST(Qel32f) dst, int dstRoiShift,
+                            int dstStride0, int len, int count);
+QelStatus qelmSub_vca_64f(const Qel64f* src, int srcStride2, const Qel64f* val, int valStride0,
+                          Qel64f* dst, int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmSub_vca_64f_L(const Qel64f* src, int srcStride2, QEL_SRC_LIST(Qel64f) val,
+                            int valRoiShift, QEL_DST_LIST(Qel64f) dst, int dstRoiShift,
+                            int dstStride2, int len, int count);
+QelStatus qelmSub_vca_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, const Qel64f* val,
+                            int valStride0, QEL_DST_LIST(Qel64f) dst, int dstRoiShift,
+                            int dstStride0, int len, int count);
+QelStatus qelmSub_vava_32f(const Qel32f* src1, int src1Stride0, int src1Stride2,
+                           const Qel32f* src2, int src2Stride0, int src2Stride2, Qel32f* dst,
+                           int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmSub_vava_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride2,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride2,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int len,
+                             int count);
+QelStatus qelmSub_vava_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int len,
+                             int count);
+QelStatus qelmSub_vava_64f(const Qel64f* src1, int src1Stride0, int src1Stride2,
+                           const Qel64f* src2, int src2Stride0, int src2Stride2, Qel64f* dst,
+                           int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmSub_vava_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride2,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride2,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int len,
+                             int count);
+QelStatus qelmSub_vava_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int len,
+                             int count);
+QelStatus qelmSub_vaca_32f(const Qel32f* src, int srcStride0, int srcStride2, const Qel32f* val,
+                           int valStride0, Qel32f* dst, int dstStride0, int dstStride2, int len,
+                           int count);
+QelStatus qelmSub_vaca_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride2,
+                             QEL_SRC_LIST(Qel32f) val, int valRoiShift, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmSub_vaca_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0,
+                             const Qel32f* val, int valStride0, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmSub_vaca_64f(const Qel64f* src, int srcStride0, int srcStride2, const Qel64f* val,
+                           int valStride0, Qel64f* dst, int dstStride0, int dstStride2, int len,
+                           int count);
+QelStatus qelmSub_vaca_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride2,
+                             QEL_SRC_LIST(Qel64f) val, int valRoiShift, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmSub_vaca_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0,
+                             const Qel64f* val, int valStride0, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmSub_cav_32f(const Qel32f* src, int srcStride2, const Qel32f* val, int valStride0,
+                          Qel32f* dst, int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmSub_cav_32f_L(const Qel32f* src, int srcStride2, QEL_SRC_LIST(Qel32f) val,
+                            int valRoiShift, QEL_DST_LIST(Qel32f) dst, int dstRoiShift,
+                            int dstStride2, int len, int count);
+QelStatus qelmSub_cav_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, const Qel32f* val,
+                            int valStride0, QEL_DST_LIST(Qel32f) dst, int dstRoiShift,
+                            int dstStride0, int len, int count);
+QelStatus qelmSub_cav_64f(const Qel64f* src, int srcStride2, const Qel64f* val, int valStride0,
+                          Qel64f* dst, int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmSub_cav_64f_L(const Qel64f* src, int srcStride2, QEL_SRC_LIST(Qel64f) val,
+                            int valRoiShift, QEL_DST_LIST(Qel64f) dst, int dstRoiShift,
+                            int dstStride2, int len, int count);
+QelStatus qelmSub_cav_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, const Qel64f* val,
+                            int valStride0, QEL_DST_LIST(Qel64f) dst, int dstRoiShift,
+                            int dstStride0, int len, int count);
+QelStatus qelmSub_cva_32f(const Qel32f* src, int srcStride0, int srcStride2, Qel32f val,
+                          Qel32f* dst, int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmSub_cva_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride2, Qel32f val,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int len,
+                            int count);
+QelStatus qelmSub_cva_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, Qel32f val,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int len,
+                            int count);
+QelStatus qelmSub_cva_64f(const Qel64f* src, int srcStride0, int srcStride2, Qel64f val,
+                          Qel64f* dst, int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmSub_cva_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride2, Qel64f val,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int len,
+                            int count);
+QelStatus qelmSub_cva_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, Qel64f val,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int len,
+                            int count);
+QelStatus qelmSub_cava_32f(const Qel32f* src, int srcStride0, int srcStride2, const Qel32f* val,
+                           int valStride0, Qel32f* dst, int dstStride0, int dstStride2, int len,
+                           int count);
+QelStatus qelmSub_cava_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride2,
+                             QEL_SRC_LIST(Qel32f) val, int valRoiShift, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmSub_cava_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0,
+                             const Qel32f* val, int valStride0, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmSub_cava_64f(const Qel64f* src, int srcStride0, int srcStride2, const Qel64f* val,
+                           int valStride0, Qel64f* dst, int dstStride0, int dstStride2, int len,
+                           int count);
+QelStatus qelmSub_cava_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride2,
+                             QEL_SRC_LIST(Qel64f) val, int valRoiShift, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmSub_cava_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0,
+                             const Qel64f* val, int valStride0, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int dstStride0, int len, int count);
+
 
 /* ---- Mul over two matrices: dst = op1(A) * op2(B). */
 /* Every operand here is sized as stored, unlike a transposed operand of Add and
