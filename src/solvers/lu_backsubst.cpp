@@ -1,8 +1,4 @@
 // LUBackSubst: the front-end and the exports.
-// GCC 12 can park a 64-bit integer in an MMX register here without an emms,
-// which leaves the caller's x87 stack unusable (long double turns to NaN).
-// These kernels need no MMX, so none is allowed.
-#pragma GCC target("no-mmx")
 #include "../frame/export.h"
 #include "lu_index.h"
 #include "lu_solve.h"
