@@ -9,6 +9,7 @@
 #include <smmintrin.h>
 
 #include <algorithm>
+#include <cstring>
 #include <type_traits>
 
 namespace qel {
@@ -48,8 +49,16 @@ struct Lanes<float> {
   static V load(const float* p) { return Aligned ? _mm_load_ps(p) : _mm_loadu_ps(p); }
   template <bool Aligned>
   static void store(float* p, V v) { Aligned ? _mm_store_ps(p, v) : _mm_storeu_ps(p, v); }
-  static V load2(const float* p) { return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p))); }
-  static void store2(float* p, V v) { _mm_store_sd(reinterpret_cast<double*>(p), _mm_castps_pd(v)); }
+  // Two floats as one 64-bit lane; memcpy, since the pair need not be 8-byte aligned.
+  static V load2(const float* p) {
+    double pair;
+    std::memcpy(&pair, p, sizeof pair);
+    return _mm_castpd_ps(_mm_set_sd(pair));
+  }
+  static void store2(float* p, V v) {
+    const double pair = _mm_cvtsd_f64(_mm_castps_pd(v));
+    std::memcpy(p, &pair, sizeof pair);
+  }
   template <int Rest>
   static V loadRest(const float* p) {
     if constexpr (Rest == 1) return _mm_load_ss(p);
