@@ -160,27 +160,36 @@ inline Block<T, R, N> loadBlock(const O& o) {
   return blk;
 }
 
+template <class Op, int R, int N, int Pitch, bool AlignA, bool AlignAll, class T, class AO, class BO,
+          class DO>
+inline void oneObjectSse(const AO& ao, const BO& bo, const DO& dobj, const Block<T, R, N>* heldA,
+                         const Block<T, R, N>* heldB) {
+  using Blk = Block<T, R, N>;
+  const Blk x = heldA ? *heldA : loadBlock<T, R, N, Pitch, AlignA || AlignAll>(ao);
+  const Blk y = heldB ? *heldB : loadBlock<T, R, N, Pitch, AlignAll>(bo);
+  for (int i = 0; i < R; ++i) {
+    typename Lanes<T>::V row[Blk::units];
+    for (int u = 0; u < Blk::units; ++u) row[u] = Op::apply(x.v[i][u], y.v[i][u]);
+    storeRow<T, N, AlignAll>(rowAt<Pitch>(dobj, i), row);
+  }
+}
+
+// Single operands go to registers (or their spill slots) once, before the loop.
+template <class T, int R, int N, int Pitch, bool Aligned, class V>
+inline const Block<T, R, N>* holdSse(const V& v, Block<T, R, N>& held) {
+  if constexpr (V::isArray) return nullptr;
+  held = loadBlock<T, R, N, Pitch, Aligned>(v.object(0));
+  return &held;
+}
+
 template <class Op, int R, int N, int Pitch, bool AlignA, bool AlignAll, class A, class B, class D>
 void objectsSse(A a, B b, D d, int count) {
   using T = typename D::Object::Elem;
-  using Blk = Block<T, R, N>;
-  // Single operands go to registers (or their spill slots) once.
-  Blk heldA{}, heldB{};
-  if constexpr (!A::isArray) heldA = loadBlock<T, R, N, Pitch, AlignA || AlignAll>(a.object(0));
-  if constexpr (!B::isArray) heldB = loadBlock<T, R, N, Pitch, AlignAll>(b.object(0));
-  for (int n = 0; n < count; ++n) {
-    Blk x, y;
-    if constexpr (A::isArray) x = loadBlock<T, R, N, Pitch, AlignA || AlignAll>(a.object(n));
-    else x = heldA;
-    if constexpr (B::isArray) y = loadBlock<T, R, N, Pitch, AlignAll>(b.object(n));
-    else y = heldB;
-    const auto dobj = d.object(n);
-    for (int i = 0; i < R; ++i) {
-      typename Lanes<T>::V row[Blk::units];
-      for (int u = 0; u < Blk::units; ++u) row[u] = Op::apply(x.v[i][u], y.v[i][u]);
-      storeRow<T, N, AlignAll>(rowAt<Pitch>(dobj, i), row);
-    }
-  }
+  Block<T, R, N> ha, hb;
+  const auto* heldA = holdSse<T, R, N, Pitch, AlignA || AlignAll>(a, ha);
+  const auto* heldB = holdSse<T, R, N, Pitch, AlignAll>(b, hb);
+  for (int n = 0; n < count; ++n)
+    oneObjectSse<Op, R, N, Pitch, AlignA, AlignAll>(a.object(n), b.object(n), d.object(n), heldA, heldB);
 }
 
 // Arrays whose objects have addresses of their own (_L), and the object
@@ -231,14 +240,39 @@ inline void noteAlignment(Alignment& al, const V& v, bool first) {
 //   6 by 6  aligned loads of the first operand, or unaligned. The destination's
 //           object distance is not tested, so its later objects may be unaligned.
 
+template <class O>
+inline const auto& storedOf(const O& o) {
+  if constexpr (isTransposedObject<O>) return o.v;
+  else return o;
+}
+
+template <class Op, int R, int N, class A, class B, class D>
+void listedObjectsSse(A a, B b, D d, int count) {
+  using T = typename D::Object::Elem;
+  Block<T, R, N> ha, hb;
+  const auto* heldA = holdSse<T, R, N, 0, false>(a, ha);
+  const auto* heldB = holdSse<T, R, N, 0, false>(b, hb);
+  const auto o = d.object(0);
+  const bool rowsAligned = multipleOf16(storedOf(a.object(0)).s1) &&
+                           multipleOf16(storedOf(b.object(0)).s1) && multipleOf16(o.s1);
+  for (int n = 0; n < count; ++n) {
+    const auto ao = a.object(n);
+    const auto bo = b.object(n);
+    const auto dobj = d.object(n);
+    if (rowsAligned && multipleOf16(storedOf(ao).base) && multipleOf16(storedOf(bo).base) &&
+        multipleOf16(dobj.base))
+      oneObjectSse<Op, R, N, 0, true, true>(ao, bo, dobj, heldA, heldB);
+    else
+      oneObjectSse<Op, R, N, 0, false, false>(ao, bo, dobj, heldA, heldB);
+  }
+}
+
 template <class Op, int R, int N, class A, class B, class D>
 void unrolledSse(A a, B b, D d, int count) {
-  // Objects behind a list have addresses of their own: test each one.
+  // Objects behind a list have addresses of their own: each one is tested on
+  // its own bases and takes the aligned or the unaligned form.
   if constexpr (isObjectList<A> || isObjectList<B> || isObjectList<D>) {
-    if (count > 1) {
-      for (int n = 0; n < count; ++n) unrolledSse<Op, R, N>(a.from(n), b.from(n), d.from(n), 1);
-      return;
-    }
+    if (count > 1) return listedObjectsSse<Op, R, N>(a, b, d, count);
   }
   Alignment al;
   noteAlignment(al, a, true);
