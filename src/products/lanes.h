@@ -8,6 +8,7 @@
 
 #include <smmintrin.h>
 
+#include <cstring>
 #include <type_traits>
 #include <utility>
 
@@ -36,13 +37,22 @@ struct Lanes<float> {
   static V mul(V a, V b) { return _mm_mul_ps(a, b); }
   static V add(V a, V b) { return _mm_add_ps(a, b); }
   // C consecutive elements (1 to 4), the other lanes zero.
+  // A float pair moves as one 64-bit lane, through memcpy: it need not be
+  // 8-byte aligned.
+  static V loadPair(const float* p) {
+    double pair;
+    std::memcpy(&pair, p, sizeof pair);
+    return _mm_castpd_ps(_mm_set_sd(pair));
+  }
+  static void storePair(float* p, V v) {
+    const double pair = _mm_cvtsd_f64(_mm_castps_pd(v));
+    std::memcpy(p, &pair, sizeof pair);
+  }
   template <int C>
   static V load(const float* p) {
     if constexpr (C == 4) return _mm_loadu_ps(p);
-    else if constexpr (C == 3)
-      return _mm_insert_ps(_mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p))),
-                           _mm_load_ss(p + 2), 0x20);
-    else if constexpr (C == 2) return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p)));
+    else if constexpr (C == 3) return _mm_insert_ps(loadPair(p), _mm_load_ss(p + 2), 0x20);
+    else if constexpr (C == 2) return loadPair(p);
     else return _mm_load_ss(p);
   }
   template <int C>
@@ -50,10 +60,10 @@ struct Lanes<float> {
     if constexpr (C == 4) {
       _mm_storeu_ps(p, v);
     } else if constexpr (C == 3) {
-      _mm_store_sd(reinterpret_cast<double*>(p), _mm_castps_pd(v));
+      storePair(p, v);
       _mm_store_ss(p + 2, _mm_movehl_ps(v, v));
     } else if constexpr (C == 2) {
-      _mm_store_sd(reinterpret_cast<double*>(p), _mm_castps_pd(v));
+      storePair(p, v);
     } else {
       _mm_store_ss(p, v);
     }
