@@ -125,8 +125,10 @@ T splitModel(const std::vector<T>& p) {
   if (k8 == 0) return fromZero(p);
   T a[4] = {}, b[4] = {};
   for (size_t k = 0; k < k8; ++k) {
-    if (sizeof(T) == 4) (k % 8 < 4 ? a : b)[k % 4] += p[k];
-    else (k % 4 < 2 ? a : b)[k % 2] += p[k];
+    // Choose the accumulator by pointer: GCC's bounds instrumentation copies a
+    // conditional of two arrays, so the += would land in a temporary.
+    T* acc = sizeof(T) == 4 ? (k % 8 < 4 ? &a[0] : &b[0]) : (k % 4 < 2 ? &a[0] : &b[0]);
+    acc[sizeof(T) == 4 ? k % 4 : k % 2] += p[k];
   }
   const T v = sizeof(T) == 4 ? ((a[0] + b[0]) + (a[1] + b[1])) + ((a[2] + b[2]) + (a[3] + b[3]))
                              : (a[0] + b[0]) + (a[1] + b[1]);

@@ -45,6 +45,7 @@ template <>
 struct Lanes<float> {
   using V = __m128;
   static constexpr int width = 4;
+  static V splat(float x) { return _mm_set1_ps(x); }
   template <bool Aligned>
   static V load(const float* p) { return Aligned ? _mm_load_ps(p) : _mm_loadu_ps(p); }
   template <bool Aligned>
@@ -87,6 +88,7 @@ template <>
 struct Lanes<double> {
   using V = __m128d;
   static constexpr int width = 2;
+  static V splat(double x) { return _mm_set1_pd(x); }
   template <bool Aligned>
   static V load(const double* p) { return Aligned ? _mm_load_pd(p) : _mm_loadu_pd(p); }
   template <bool Aligned>
@@ -426,13 +428,6 @@ QelStatus elementwise(A a, B b, D d, int width, int height, int count) {
 
 // ------------------------------------------------ one vector: vv, vc, cv
 
-inline __m128 loadUnaligned(const float* p) { return _mm_loadu_ps(p); }
-inline __m128d loadUnaligned(const double* p) { return _mm_loadu_pd(p); }
-inline void storeAligned(float* p, __m128 v) { _mm_store_ps(p, v); }
-inline void storeAligned(double* p, __m128d v) { _mm_store_pd(p, v); }
-inline __m128 broadcast(float v) { return _mm_set1_ps(v); }
-inline __m128d broadcast(double v) { return _mm_set1_pd(v); }
-
 template <class V>
 inline bool overlapsDst(const V& v, const void* dst, int len, int e) {
   if constexpr (requires { v.base; }) {
@@ -446,8 +441,8 @@ inline bool overlapsDst(const V& v, const void* dst, int len, int e) {
 
 template <class T, class V>
 inline auto lanesAt(const V& v, int j) {
-  if constexpr (requires { v.base; }) return loadUnaligned(&v.at(0, j));
-  else return broadcast(v.val);
+  if constexpr (requires { v.base; }) return Lanes<T>::template load<false>(&v.at(0, j));
+  else return Lanes<T>::splat(v.val);
 }
 
 // One vector, element by element in forward order: the fixed lengths 3 to 6,
@@ -471,8 +466,8 @@ QelStatus vectorOnce(A a, B b, D d, int len) {
         dobj.at(0, j) = Op::apply(T(ao.at(0, j)), T(bo.at(0, j)));
       for (; j + 8 <= len; j += 8)
         for (int k = 0; k < 8; k += lanes)
-          storeAligned(&dobj.at(0, j + k),
-                       Op::apply(lanesAt<T>(ao, j + k), lanesAt<T>(bo, j + k)));
+          Lanes<T>::template store<true>(&dobj.at(0, j + k),
+                                         Op::apply(lanesAt<T>(ao, j + k), lanesAt<T>(bo, j + k)));
     }
   }
   for (; j < len; ++j) dobj.at(0, j) = Op::apply(T(ao.at(0, j)), T(bo.at(0, j)));
