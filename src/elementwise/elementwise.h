@@ -33,8 +33,8 @@ struct SubOp {
 // (four Qel32f or two Qel64f), the last unit of a row filled from smaller
 // parts, so no byte outside the row is read or written. An operand read as its
 // transpose is loaded by columns: a 4 by 4 Qel32f object is transposed by
-// shuffling, other sizes gather their columns. A single operand is loaded once,
-// before the object loop. Pitch fixes the row distance (16 for a packed array,
+// shuffling, even Qel64f sizes by 2 by 2 blocks, other sizes gather columns.
+// A single operand is loaded once, before the object loop. Pitch fixes the row distance (16 for a packed array,
 // 0 for the real one); AlignA marks operand A's rows as 16-byte aligned,
 // AlignAll every operand's.
 
@@ -146,6 +146,15 @@ inline Block<T, R, N> loadBlock(const O& o) {
       __m128 r2 = _mm_loadu_ps(rowAt<Pitch>(o.v, 2)), r3 = _mm_loadu_ps(rowAt<Pitch>(o.v, 3));
       _MM_TRANSPOSE4_PS(r0, r1, r2, r3);
       blk.v[0][0] = r0, blk.v[1][0] = r1, blk.v[2][0] = r2, blk.v[3][0] = r3;
+    } else if constexpr (std::is_same_v<T, double> && N % 2 == 0) {
+      // 2 by 2 blocks: two stored rows' column pair become two result rows' unit.
+      for (int u = 0; u < N / 2; ++u)
+        for (int c = 0; c < N / 2; ++c) {
+          const __m128d top = _mm_loadu_pd(rowAt<Pitch>(o.v, 2 * u) + 2 * c);
+          const __m128d bottom = _mm_loadu_pd(rowAt<Pitch>(o.v, 2 * u + 1) + 2 * c);
+          blk.v[2 * c][u] = _mm_unpacklo_pd(top, bottom);
+          blk.v[2 * c + 1][u] = _mm_unpackhi_pd(top, bottom);
+        }
     } else {
       const T* stored[N];
       for (int k = 0; k < N; ++k) stored[k] = rowAt<Pitch>(o.v, k);
