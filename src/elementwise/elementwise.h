@@ -3,6 +3,7 @@
 // the paths differ in speed only.
 #pragma once
 
+#include "../frame/lanes.h"
 #include "../frame/views.h"
 #include "qelm/qelmtypes.h"
 
@@ -34,96 +35,42 @@ struct SubOp {
 // parts, so no byte outside the row is read or written. An operand read as its
 // transpose is loaded by columns: a 4 by 4 Qel32f object is transposed by
 // shuffling, even Qel64f sizes by 2 by 2 blocks, other sizes gather columns.
-// A single operand is loaded once, before the object loop. Pitch fixes the row distance (16 for a packed array,
-// 0 for the real one); AlignA marks operand A's rows as 16-byte aligned,
-// AlignAll every operand's.
+// A single operand is loaded once, before the object loop. Pitch fixes the
+// row distance (16 for a packed array, 0 for the real one); AlignA marks operand
+// A's rows as 16-byte aligned, AlignAll every operand's.
 
-template <class T>
-struct Lanes;
-
-template <>
-struct Lanes<float> {
-  using V = __m128;
-  static constexpr int width = 4;
-  static V splat(float x) { return _mm_set1_ps(x); }
-  template <bool Aligned>
-  static V load(const float* p) { return Aligned ? _mm_load_ps(p) : _mm_loadu_ps(p); }
-  template <bool Aligned>
-  static void store(float* p, V v) { Aligned ? _mm_store_ps(p, v) : _mm_storeu_ps(p, v); }
-  // Two floats as one 64-bit lane; memcpy, since the pair need not be 8-byte aligned.
-  static V load2(const float* p) {
-    double pair;
-    std::memcpy(&pair, p, sizeof pair);
-    return _mm_castpd_ps(_mm_set_sd(pair));
-  }
-  static void store2(float* p, V v) {
-    const double pair = _mm_cvtsd_f64(_mm_castps_pd(v));
-    std::memcpy(p, &pair, sizeof pair);
-  }
-  template <int Rest>
-  static V loadRest(const float* p) {
-    if constexpr (Rest == 1) return _mm_load_ss(p);
-    else if constexpr (Rest == 2) return load2(p);
-    else return _mm_movelh_ps(load2(p), _mm_load_ss(p + 2));
-  }
-  template <int Rest>
-  static void storeRest(float* p, V v) {
-    if constexpr (Rest == 1) {
-      _mm_store_ss(p, v);
-    } else {
-      store2(p, v);
-      if constexpr (Rest == 3) _mm_store_ss(p + 2, _mm_movehl_ps(v, v));
-    }
-  }
-  // Element i of `n` consecutive stored rows, one per lane.
-  template <int n>
-  static V gather(const float* const* rows, int i) {
-    alignas(16) float lanes[4] = {0, 0, 0, 0};
-    for (int l = 0; l < n; ++l) lanes[l] = rows[l][i];
-    return _mm_load_ps(lanes);
-  }
-};
-
-template <>
-struct Lanes<double> {
-  using V = __m128d;
-  static constexpr int width = 2;
-  static V splat(double x) { return _mm_set1_pd(x); }
-  template <bool Aligned>
-  static V load(const double* p) { return Aligned ? _mm_load_pd(p) : _mm_loadu_pd(p); }
-  template <bool Aligned>
-  static void store(double* p, V v) { Aligned ? _mm_store_pd(p, v) : _mm_storeu_pd(p, v); }
-  template <int Rest>
-  static V loadRest(const double* p) { return _mm_load_sd(p); }
-  template <int Rest>
-  static void storeRest(double* p, V v) { _mm_store_sd(p, v); }
-  template <int n>
-  static V gather(const double* const* rows, int i) {
-    if constexpr (n == 2) return _mm_loadh_pd(_mm_load_sd(rows[0] + i), rows[1] + i);
-    else return _mm_load_sd(rows[0] + i);
-  }
-};
+// A column of `n` consecutive stored rows at element i, one row per lane, the
+// other lanes zero.
+template <class T, int n>
+inline typename Lanes<T>::V gatherColumn(const T* const* rows, int i) {
+  T v[Lanes<T>::L] = {};
+  for (int l = 0; l < n; ++l) v[l] = rows[l][i];
+  if constexpr (Lanes<T>::L == 4) return Lanes<T>::gather(v[0], v[1], v[2], v[3]);
+  else return Lanes<T>::gather(v[0], v[1]);
+}
 
 template <class T, int R, int N>
 struct Block {
-  using L = Lanes<T>;
-  static constexpr int units = (N + L::width - 1) / L::width;
-  typename L::V v[R][units];
+  using S = Lanes<T>;
+  static constexpr int units = (N + S::L - 1) / S::L;
+  typename S::V v[R][units];
 };
 
 template <class T, int N, bool Aligned>
 inline void loadRow(typename Lanes<T>::V* u, const T* p) {
-  using L = Lanes<T>;
-  constexpr int W = L::width;
-  for (int j = 0; j + W <= N; j += W) u[j / W] = L::template load<Aligned>(p + j);
-  if constexpr (N % W != 0) u[N / W] = L::template loadRest<N % W>(p + N / W * W);
+  using S = Lanes<T>;
+  for (int j = 0; j + S::L <= N; j += S::L)
+    u[j / S::L] = Aligned ? S::loadAligned(p + j) : S::template load<S::L>(p + j);
+  if constexpr (N % S::L != 0) u[N / S::L] = S::template load<N % S::L>(p + N / S::L * S::L);
 }
 template <class T, int N, bool Aligned>
 inline void storeRow(T* p, const typename Lanes<T>::V* u) {
-  using L = Lanes<T>;
-  constexpr int W = L::width;
-  for (int j = 0; j + W <= N; j += W) L::template store<Aligned>(p + j, u[j / W]);
-  if constexpr (N % W != 0) L::template storeRest<N % W>(p + N / W * W, u[N / W]);
+  using S = Lanes<T>;
+  for (int j = 0; j + S::L <= N; j += S::L) {
+    if constexpr (Aligned) S::storeAligned(p + j, u[j / S::L]);
+    else S::template store<S::L>(p + j, u[j / S::L]);
+  }
+  if constexpr (N % S::L != 0) S::template store<N % S::L>(p + N / S::L * S::L, u[N / S::L]);
 }
 
 template <int Pitch, class M>
@@ -137,7 +84,7 @@ constexpr bool isTransposedObject = requires(O o) { o.v; };
 
 template <class T, int R, int N, int Pitch, bool Aligned, class O>
 inline Block<T, R, N> loadBlock(const O& o) {
-  using L = Lanes<T>;
+  using S = Lanes<T>;
   Block<T, R, N> blk;
   if constexpr (isTransposedObject<O>) {
     // Row i of the result is column i of the stored matrix.
@@ -160,10 +107,9 @@ inline Block<T, R, N> loadBlock(const O& o) {
       for (int k = 0; k < N; ++k) stored[k] = rowAt<Pitch>(o.v, k);
       for (int i = 0; i < R; ++i)
         for (int u = 0; u < Block<T, R, N>::units; ++u)
-          blk.v[i][u] = (u + 1) * L::width <= N
-                            ? L::template gather<L::width>(stored + u * L::width, i)
-                            : L::template gather<(N % L::width ? N % L::width : L::width)>(
-                                  stored + u * L::width, i);
+          blk.v[i][u] = (u + 1) * S::L <= N
+                            ? gatherColumn<T, S::L>(stored + u * S::L, i)
+                            : gatherColumn<T, (N % S::L ? N % S::L : S::L)>(stored + u * S::L, i);
     }
   } else {
     for (int i = 0; i < R; ++i) loadRow<T, N, Aligned>(blk.v[i], rowAt<Pitch>(o, i));
@@ -379,19 +325,19 @@ inline bool isDense(const V& v, int width, int height) {
 
 template <class Op, class T>
 void flatRun(const T* a, const T* b, T* d, size_t n) {
-  using L = Lanes<T>;
-  constexpr size_t W = L::width;
+  using S = Lanes<T>;
+  constexpr size_t W = S::L;
   size_t k = 0;
   // Four units a pass, all loaded before any is stored: with dst equal to a
   // source each element is still read before it is written.
   for (; k + 4 * W <= n; k += 4 * W) {
-    typename L::V r[4];
+    typename S::V r[4];
     for (size_t u = 0; u < 4; ++u)
-      r[u] = Op::apply(L::template load<false>(a + k + u * W), L::template load<false>(b + k + u * W));
-    for (size_t u = 0; u < 4; ++u) L::template store<false>(d + k + u * W, r[u]);
+      r[u] = Op::apply(S::template load<W>(a + k + u * W), S::template load<W>(b + k + u * W));
+    for (size_t u = 0; u < 4; ++u) S::template store<W>(d + k + u * W, r[u]);
   }
   for (; k + W <= n; k += W)
-    L::template store<false>(d + k, Op::apply(L::template load<false>(a + k), L::template load<false>(b + k)));
+    S::template store<W>(d + k, Op::apply(S::template load<W>(a + k), S::template load<W>(b + k)));
   for (; k < n; ++k) d[k] = Op::apply(a[k], b[k]);
 }
 
@@ -450,7 +396,7 @@ inline bool overlapsDst(const V& v, const void* dst, int len, int e) {
 
 template <class T, class V>
 inline auto lanesAt(const V& v, int j) {
-  if constexpr (requires { v.base; }) return Lanes<T>::template load<false>(&v.at(0, j));
+  if constexpr (requires { v.base; }) return Lanes<T>::template load<Lanes<T>::L>(&v.at(0, j));
   else return Lanes<T>::splat(v.val);
 }
 
@@ -475,8 +421,8 @@ QelStatus vectorOnce(A a, B b, D d, int len) {
         dobj.at(0, j) = Op::apply(T(ao.at(0, j)), T(bo.at(0, j)));
       for (; j + 8 <= len; j += 8)
         for (int k = 0; k < 8; k += lanes)
-          Lanes<T>::template store<true>(&dobj.at(0, j + k),
-                                         Op::apply(lanesAt<T>(ao, j + k), lanesAt<T>(bo, j + k)));
+          Lanes<T>::storeAligned(&dobj.at(0, j + k),
+                                 Op::apply(lanesAt<T>(ao, j + k), lanesAt<T>(bo, j + k)));
     }
   }
   for (; j < len; ++j) dobj.at(0, j) = Op::apply(T(ao.at(0, j)), T(bo.at(0, j)));

@@ -16,7 +16,7 @@
 #include "../frame/checks.h"
 #include "../frame/driver.h"
 #include "../frame/views.h"
-#include "lanes.h"
+#include "../frame/lanes.h"
 #include "qelm/qelmtypes.h"
 
 #include <cstdint>

@@ -12,7 +12,7 @@
 #include <type_traits>
 #include <utility>
 
-namespace qel::mul {
+namespace qel {
 
 // Calls f(integral_constant<int, 0>) .. f(integral_constant<int, N - 1>): a loop
 // the compiler always lays out straight.
@@ -36,6 +36,8 @@ struct Lanes<float> {
   static V splatLane(V v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(I, I, I, I)); }
   static V mul(V a, V b) { return _mm_mul_ps(a, b); }
   static V add(V a, V b) { return _mm_add_ps(a, b); }
+  static V loadAligned(const float* p) { return _mm_load_ps(p); }
+  static void storeAligned(float* p, V v) { _mm_store_ps(p, v); }
   // C consecutive elements (1 to 4), the other lanes zero.
   // A float pair moves as one 64-bit lane, through memcpy: it need not be
   // 8-byte aligned.
@@ -81,6 +83,8 @@ struct Lanes<double> {
   static V splatLane(V v) { return _mm_shuffle_pd(v, v, I ? 3 : 0); }
   static V mul(V a, V b) { return _mm_mul_pd(a, b); }
   static V add(V a, V b) { return _mm_add_pd(a, b); }
+  static V loadAligned(const double* p) { return _mm_load_pd(p); }
+  static void storeAligned(double* p, V v) { _mm_store_pd(p, v); }
   template <int C>
   static V load(const double* p) {
     if constexpr (C == 2) return _mm_loadu_pd(p);
@@ -126,4 +130,4 @@ struct SplitAccumulator {
   }
 };
 
-}  // namespace qel::mul
+}  // namespace qel
