@@ -87,14 +87,16 @@ QelStatus vectorOnceFront(const char* order, A a, B b, D d, int len) {
   }
 
 // Every type and layout of a shape with count. The orders are those of
-// standard, _L and _P; the _P columns may differ by type.
-#define QEL_VEC_ARRAY_SHAPE(OP, SHAPE, OS, OL, OP32, OP64, W, K1, N1, K2, N2, SWAP) \
-  QEL_VEC_ARRAY(OP, SHAPE, Qel32f, 32f, , S, OS, W, K1, N1, K2, N2, SWAP, S)       \
-  QEL_VEC_ARRAY(OP, SHAPE, Qel32f, 32f, _L, L, OL, W, K1, N1, K2, N2, SWAP, L)     \
-  QEL_VEC_ARRAY(OP, SHAPE, Qel32f, 32f, _P, P, OP32, W, K1, N1, K2, N2, SWAP, P)   \
-  QEL_VEC_ARRAY(OP, SHAPE, Qel64f, 64f, , S, OS, W, K1, N1, K2, N2, SWAP, S)       \
-  QEL_VEC_ARRAY(OP, SHAPE, Qel64f, 64f, _L, L, OL, W, K1, N1, K2, N2, SWAP, L)     \
-  QEL_VEC_ARRAY(OP, SHAPE, Qel64f, 64f, _P, P, OP64, W, K1, N1, K2, N2, SWAP, P)
+// standard, _L and _P in 32f and 64f; the _P members may also differ in the
+// description of their first array (P, or Pns without its object-distance
+// check) and in their work test (the 64f one).
+#define QEL_VEC_ARRAY_SHAPE(OP, SHAPE, OS, OL, OP32, OP64, P32, W, W64P, K1, N1, K2, N2, SWAP) \
+  QEL_VEC_ARRAY(OP, SHAPE, Qel32f, 32f, , S, OS, W, K1, N1, K2, N2, SWAP, S)                \
+  QEL_VEC_ARRAY(OP, SHAPE, Qel32f, 32f, _L, L, OL, W, K1, N1, K2, N2, SWAP, L)              \
+  QEL_VEC_ARRAY(OP, SHAPE, Qel32f, 32f, _P, P32, OP32, W, K1, N1, K2, N2, SWAP, P)          \
+  QEL_VEC_ARRAY(OP, SHAPE, Qel64f, 64f, , S, OS, W, K1, N1, K2, N2, SWAP, S)                \
+  QEL_VEC_ARRAY(OP, SHAPE, Qel64f, 64f, _L, L, OL, W, K1, N1, K2, N2, SWAP, L)              \
+  QEL_VEC_ARRAY(OP, SHAPE, Qel64f, 64f, _P, P, OP64, W64P, K1, N1, K2, N2, SWAP, P)
 
 #define QEL_VEC_ONCE_SHAPE(OP, SHAPE, K1, N1, K2, N2, SWAP)                    \
   QEL_VEC_ONCE(OP, SHAPE, Qel32f, 32f, , S, "NZS", K1, N1, K2, N2, SWAP)       \
@@ -104,49 +106,25 @@ QelStatus vectorOnceFront(const char* order, A a, B b, D d, int len) {
 
 QEL_VEC_ONCE_SHAPE(Add, vv, VONE, src1, VONE, src2, 0)
 QEL_VEC_ONCE_SHAPE(Add, vc, VONE, src, CON, val, 0)
-QEL_VEC_ARRAY_SHAPE(Add, vav, "NZSC", "NZSRC", "NZSCR", "NZSCR", OneArray, VARR, src1, VONE, src2, 0)
-QEL_VEC_ARRAY_SHAPE(Add, vac, "NCZS", "NCZSR", "NCZSR", "NCZSR", OneArray, VARR, src, CON, val, 0)
-QEL_VEC_ARRAY_SHAPE(Add, vava, "NCZS", "NCZSR", "NCZSR", "NCZSR", TwoArrays, VARR, src1, VARR, src2, 0)
-
+QEL_VEC_ARRAY_SHAPE(Add, vav, "NZSC", "NZSRC", "NZSCR", "NZSCR", P, OneArray, OneArray, VARR, src1, VONE, src2, 0)
+QEL_VEC_ARRAY_SHAPE(Add, vac, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, OneArray, OneArray, VARR, src, CON, val, 0)
+QEL_VEC_ARRAY_SHAPE(Add, vava, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, TwoArrays, TwoArrays, VARR, src1, VARR, src2, 0)
 // Add_vca in 64f _P tests no roi shift.
-QEL_VEC_ARRAY(Add, vca, Qel32f, 32f, , S, "NCZS", ConstPerObj, VONE, src, CAR, val, 0, S)
-QEL_VEC_ARRAY(Add, vca, Qel32f, 32f, _L, L, "NCZSR", ConstPerObj, VONE, src, CAR, val, 0, L)
-QEL_VEC_ARRAY(Add, vca, Qel32f, 32f, _P, P, "NCZSR", ConstPerObj, VONE, src, CAR, val, 0, P)
-QEL_VEC_ARRAY(Add, vca, Qel64f, 64f, , S, "NCZS", ConstPerObj, VONE, src, CAR, val, 0, S)
-QEL_VEC_ARRAY(Add, vca, Qel64f, 64f, _L, L, "NCZSR", ConstPerObj, VONE, src, CAR, val, 0, L)
-QEL_VEC_ARRAY(Add, vca, Qel64f, 64f, _P, P, "NCZS", ConstPerObj, VONE, src, CAR, val, 0, P)
-
+QEL_VEC_ARRAY_SHAPE(Add, vca, "NCZS", "NCZSR", "NCZSR", "NCZS", P, ConstPerObj, ConstPerObj, VONE, src, CAR, val, 0)
 // Add_vaca in 32f _P leaves srcStride0 out of its stride checks.
-QEL_VEC_ARRAY(Add, vaca, Qel32f, 32f, , S, "NCZS", ConstArrays, VARR, src, CAR, val, 0, S)
-QEL_VEC_ARRAY(Add, vaca, Qel32f, 32f, _L, L, "NCZSR", ConstArrays, VARR, src, CAR, val, 0, L)
-QEL_VEC_ARRAY(Add, vaca, Qel32f, 32f, _P, Pns, "NCZSR", ConstArrays, VARR, src, CAR, val, 0, P)
-QEL_VEC_ARRAY(Add, vaca, Qel64f, 64f, , S, "NCZS", ConstArrays, VARR, src, CAR, val, 0, S)
-QEL_VEC_ARRAY(Add, vaca, Qel64f, 64f, _L, L, "NCZSR", ConstArrays, VARR, src, CAR, val, 0, L)
-QEL_VEC_ARRAY(Add, vaca, Qel64f, 64f, _P, P, "NCZSR", ConstArrays, VARR, src, CAR, val, 0, P)
+QEL_VEC_ARRAY_SHAPE(Add, vaca, "NCZS", "NCZSR", "NCZSR", "NCZSR", Pns, ConstArrays, ConstArrays, VARR, src, CAR, val, 0)
 
 QEL_VEC_ONCE_SHAPE(Sub, vv, VONE, src1, VONE, src2, 0)
 QEL_VEC_ONCE_SHAPE(Sub, vc, VONE, src, CON, val, 0)
 QEL_VEC_ONCE_SHAPE(Sub, cv, VONE, src, CON, val, 1)
-QEL_VEC_ARRAY_SHAPE(Sub, vav, "NZSC", "NZSRC", "NZSCR", "NZSCR", OneArray, VARR, src1, VONE, src2, 0)
-QEL_VEC_ARRAY_SHAPE(Sub, vac, "NCZS", "NCZSR", "NCZSR", "NCZSR", OneArray, VARR, src, CON, val, 0)
-QEL_VEC_ARRAY_SHAPE(Sub, vca, "NCZS", "NCZSR", "NCZSR", "NCZSR", ConstPerObj, VONE, src, CAR, val, 0)
-QEL_VEC_ARRAY_SHAPE(Sub, vava, "NCZS", "NCZSR", "NCZSR", "NCZSR", TwoArrays, VARR, src1, VARR, src2, 0)
-QEL_VEC_ARRAY_SHAPE(Sub, vaca, "NCZS", "NCZSR", "NCZSR", "NCZSR", ConstArrays, VARR, src, CAR, val, 0)
-QEL_VEC_ARRAY_SHAPE(Sub, cva, "NCZS", "NCZSR", "NCZSR", "NCZSR", CountOnly, VARR, src, CON, val, 1)
-QEL_VEC_ARRAY_SHAPE(Sub, cava, "NCZS", "NCZSR", "NCZSR", "NCZSR", ConstArrays, VARR, src, CAR, val, 1)
-
+QEL_VEC_ARRAY_SHAPE(Sub, vav, "NZSC", "NZSRC", "NZSCR", "NZSCR", P, OneArray, OneArray, VARR, src1, VONE, src2, 0)
+QEL_VEC_ARRAY_SHAPE(Sub, vac, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, OneArray, OneArray, VARR, src, CON, val, 0)
+QEL_VEC_ARRAY_SHAPE(Sub, vca, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, ConstPerObj, ConstPerObj, VONE, src, CAR, val, 0)
+QEL_VEC_ARRAY_SHAPE(Sub, vava, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, TwoArrays, TwoArrays, VARR, src1, VARR, src2, 0)
+QEL_VEC_ARRAY_SHAPE(Sub, vaca, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, ConstArrays, ConstArrays, VARR, src, CAR, val, 0)
+QEL_VEC_ARRAY_SHAPE(Sub, cva, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, CountOnly, CountOnly, VARR, src, CON, val, 1)
+QEL_VEC_ARRAY_SHAPE(Sub, cava, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, ConstArrays, ConstArrays, VARR, src, CAR, val, 1)
 // Sub_cav in 32f _P tests no roi shift.
-QEL_VEC_ARRAY(Sub, cav, Qel32f, 32f, , S, "NCZS", ConstPerObj, VONE, src, CAR, val, 1, S)
-QEL_VEC_ARRAY(Sub, cav, Qel32f, 32f, _L, L, "NCZSR", ConstPerObj, VONE, src, CAR, val, 1, L)
-QEL_VEC_ARRAY(Sub, cav, Qel32f, 32f, _P, P, "NCZS", ConstPerObj, VONE, src, CAR, val, 1, P)
-QEL_VEC_ARRAY(Sub, cav, Qel64f, 64f, , S, "NCZS", ConstPerObj, VONE, src, CAR, val, 1, S)
-QEL_VEC_ARRAY(Sub, cav, Qel64f, 64f, _L, L, "NCZSR", ConstPerObj, VONE, src, CAR, val, 1, L)
-QEL_VEC_ARRAY(Sub, cav, Qel64f, 64f, _P, P, "NCZSR", ConstPerObj, VONE, src, CAR, val, 1, P)
-
-// Sub_vva: 64f _P has no work test and no driver.
-QEL_VEC_ARRAY(Sub, vva, Qel32f, 32f, , S, "NCZS", OneArray, VONE, src1, VARR, src2, 0, S)
-QEL_VEC_ARRAY(Sub, vva, Qel32f, 32f, _L, L, "NCZSR", OneArray, VONE, src1, VARR, src2, 0, L)
-QEL_VEC_ARRAY(Sub, vva, Qel32f, 32f, _P, P, "NCZSR", OneArray, VONE, src1, VARR, src2, 0, P)
-QEL_VEC_ARRAY(Sub, vva, Qel64f, 64f, , S, "NCZS", OneArray, VONE, src1, VARR, src2, 0, S)
-QEL_VEC_ARRAY(Sub, vva, Qel64f, 64f, _L, L, "NCZSR", OneArray, VONE, src1, VARR, src2, 0, L)
-QEL_VEC_ARRAY(Sub, vva, Qel64f, 64f, _P, P, "NCZSR", None, VONE, src1, VARR, src2, 0, P)
+QEL_VEC_ARRAY_SHAPE(Sub, cav, "NCZS", "NCZSR", "NCZS", "NCZSR", P, ConstPerObj, ConstPerObj, VONE, src, CAR, val, 1)
+// Sub_vva in 64f _P has no work test and no driver.
+QEL_VEC_ARRAY_SHAPE(Sub, vva, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, OneArray, None, VONE, src1, VARR, src2, 0)
