@@ -25,12 +25,6 @@ struct CheckGroups {
   bool shifts = true;
 };
 
-inline bool nonNull(std::initializer_list<const void*> ptrs) {
-  for (const void* p : ptrs)
-    if (!p) return false;
-  return true;
-}
-
 inline bool sizesPositive(std::initializer_list<int32_t> sizes) {
   for (int32_t s : sizes)
     if (s < 1) return false;

@@ -267,18 +267,6 @@ inline bool allUnitStride(const V&... v) {
   return (v.unitStride() && ...);
 }
 template <class... V>
-inline bool allPointersOk(const V&... v) {
-  return (v.pointerOk() && ...);
-}
-template <class... V>
-inline bool allStridesOk(const V&... v) {
-  return (v.stridesOk() && ...);
-}
-template <class... V>
-inline bool allShiftsOk(const V&... v) {
-  return (v.shiftsOk() && ...);
-}
-template <class... V>
 constexpr bool anyStride2 = (V::hasStride2 || ...);
 
 }  // namespace qel
