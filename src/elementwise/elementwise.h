@@ -163,9 +163,16 @@ constexpr bool isObjectList = IsObjectList<V>::value;
 inline bool multipleOf16(const void* p) { return (reinterpret_cast<uintptr_t>(p) & 15) == 0; }
 inline bool multipleOf16(int32_t s) { return (s & 15) == 0; }
 
-// Alignment facts of a 32f contiguous call, taken from the first object: the
-// base pointers, the object distances of the array operands and the row
-// distances of every operand.
+// The stored matrix behind an object, transposed or not.
+template <class O>
+inline const auto& storedOf(const O& o) {
+  if constexpr (isTransposedObject<O>) return o.v;
+  else return o;
+}
+
+// Alignment facts of a contiguous call, taken from the first object: the base
+// pointers, the object distances of the array operands and the row distances
+// of every operand.
 struct Alignment {
   bool pointers = true, firstStride0 = true, otherStride0 = true, rows = true;
   int32_t rowOr = 0;
@@ -174,10 +181,7 @@ struct Alignment {
 template <class V>
 inline void noteAlignment(Alignment& al, const V& v, bool first) {
   const auto obj = v.object(0);
-  const auto& o = [&]() -> const auto& {
-    if constexpr (isTransposedObject<decltype(obj)>) return obj.v;
-    else return obj;
-  }();
+  const auto& o = storedOf(obj);
   al.pointers = al.pointers && multipleOf16(o.base);
   al.rows = al.rows && multipleOf16(o.s1);
   al.rowOr |= o.s1;
@@ -188,21 +192,7 @@ inline void noteAlignment(Alignment& al, const V& v, bool first) {
   }
 }
 
-// The unrolled sizes of the contiguous kernels. A vector of 3 to 6
-// elements takes aligned units when every base and object distance is a
-// multiple of 16. A square matrix:
-//   3 by 3  packed rows at a pitch of 16, or the same sums at the real pitch;
-//   4 by 4  packed and aligned, aligned at the real pitch, or unaligned;
-//   5 by 5  unaligned, four elements and one per row;
-//   6 by 6  aligned loads of the first operand, or unaligned. The destination's
-//           object distance is not tested, so its later objects may be unaligned.
-
-template <class O>
-inline const auto& storedOf(const O& o) {
-  if constexpr (isTransposedObject<O>) return o.v;
-  else return o;
-}
-
+// _L arrays: every object is tested on its own bases inside the one loop.
 template <class Op, int R, int N, class A, class B, class D>
 void listedObjectsSse(A a, B b, D d, int count) {
   using T = typename D::Object::Elem;
@@ -223,6 +213,15 @@ void listedObjectsSse(A a, B b, D d, int count) {
       oneObjectSse<Op, R, N, 0, false, false>(ao, bo, dobj, heldA, heldB);
   }
 }
+
+// The unrolled sizes of the contiguous kernels. A vector of 3 to 6
+// elements takes aligned units when every base and object distance is a
+// multiple of 16. A square matrix:
+//   3 by 3  packed rows at a pitch of 16, or the same sums at the real pitch;
+//   4 by 4  packed and aligned, aligned at the real pitch, or unaligned;
+//   5 by 5  unaligned, four elements and one per row;
+//   6 by 6  aligned loads of the first operand, or unaligned. The destination's
+//           object distance is not tested, so its later objects may be unaligned.
 
 template <class Op, int R, int N, class A, class B, class D>
 void unrolledSse(A a, B b, D d, int count) {
