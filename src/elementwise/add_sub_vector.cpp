@@ -2,12 +2,10 @@
 // the one-vector kernel, and the export table.
 #include "../frame/export.h"
 #include "elementwise.h"
-#include "operands.h"
+#include "../frame/operands.h"
 
 namespace {
 using namespace qel;
-
-enum class Layout { S, L, P };
 
 // The work figure of each shape class, from `len` and `count`.
 enum class VecWork {
@@ -68,22 +66,22 @@ QelStatus vectorOnceFront(const char* order, A a, B b, D d, int len) {
 #define QEL_SWAP_1(x, y) y, x
 
 #define QEL_VEC_ARRAY(OP, SHAPE, T, F, SUFFIX, LAY, ORDER, WORK, K1, N1, K2, N2, SWAP, DLAY)    \
-  QELM_API QelStatus qelm##OP##_##SHAPE##_##F##SUFFIX(QEL_P_##K1##_##LAY(T, N1),             \
-                                                      QEL_P_##K2##_##LAY(T, N2),             \
-                                                      QEL_D_VARR_##DLAY(T), int len, int count) { \
+  QELM_API QelStatus qelm##OP##_##SHAPE##_##F##SUFFIX(QEL_ARGS_##K1##_##LAY(const T, N1),             \
+                                                      QEL_ARGS_##K2##_##LAY(const T, N2),             \
+                                                      QEL_ARGS_va_##DLAY(T, dst), int len, int count) { \
     return vectorArrayFront<OP##Op, T, Layout::DLAY>(                                        \
         ORDER, VecWork::WORK,                                                                \
-        QEL_SWAP_##SWAP(QEL_V_##K1##_##LAY(N1, len), QEL_V_##K2##_##LAY(N2, len)),           \
-        QEL_V_VARR_##DLAY(dst, len), len, count);                                            \
+        QEL_SWAP_##SWAP(QEL_VIEW_##K1##_##LAY(N1, len), QEL_VIEW_##K2##_##LAY(N2, len)),           \
+        QEL_VIEW_va_##DLAY(dst, len), len, count);                                            \
   }
 
 #define QEL_VEC_ONCE(OP, SHAPE, T, F, SUFFIX, LAY, ORDER, K1, N1, K2, N2, SWAP)                \
-  QELM_API QelStatus qelm##OP##_##SHAPE##_##F##SUFFIX(QEL_P_##K1##_##LAY(T, N1),             \
-                                                      QEL_P_##K2##_##LAY(T, N2),             \
-                                                      QEL_D_VONE_##LAY(T), int len) {        \
+  QELM_API QelStatus qelm##OP##_##SHAPE##_##F##SUFFIX(QEL_ARGS_##K1##_##LAY(const T, N1),             \
+                                                      QEL_ARGS_##K2##_##LAY(const T, N2),             \
+                                                      QEL_ARGS_v_##LAY(T, dst), int len) {        \
     return vectorOnceFront<OP##Op>(                                                          \
-        ORDER, QEL_SWAP_##SWAP(QEL_V_##K1##_##LAY(N1, len), QEL_V_##K2##_##LAY(N2, len)),    \
-        QEL_V_VONE_##LAY(dst, len), len);                                                    \
+        ORDER, QEL_SWAP_##SWAP(QEL_VIEW_##K1##_##LAY(N1, len), QEL_VIEW_##K2##_##LAY(N2, len)),    \
+        QEL_VIEW_v_##LAY(dst, len), len);                                                    \
   }
 
 // Every type and layout of a shape with count. The orders are those of
@@ -104,27 +102,27 @@ QelStatus vectorOnceFront(const char* order, A a, B b, D d, int len) {
   QEL_VEC_ONCE(OP, SHAPE, Qel64f, 64f, , S, "NZS", K1, N1, K2, N2, SWAP)       \
   QEL_VEC_ONCE(OP, SHAPE, Qel64f, 64f, _P, P, "NZR", K1, N1, K2, N2, SWAP)
 
-QEL_VEC_ONCE_SHAPE(Add, vv, VONE, src1, VONE, src2, 0)
-QEL_VEC_ONCE_SHAPE(Add, vc, VONE, src, CON, val, 0)
-QEL_VEC_ARRAY_SHAPE(Add, vav, "NZSC", "NZSRC", "NZSCR", "NZSCR", P, OneArray, OneArray, VARR, src1, VONE, src2, 0)
-QEL_VEC_ARRAY_SHAPE(Add, vac, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, OneArray, OneArray, VARR, src, CON, val, 0)
-QEL_VEC_ARRAY_SHAPE(Add, vava, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, TwoArrays, TwoArrays, VARR, src1, VARR, src2, 0)
+QEL_VEC_ONCE_SHAPE(Add, vv, v, src1, v, src2, 0)
+QEL_VEC_ONCE_SHAPE(Add, vc, v, src, c, val, 0)
+QEL_VEC_ARRAY_SHAPE(Add, vav, "NZSC", "NZSRC", "NZSCR", "NZSCR", P, OneArray, OneArray, va, src1, v, src2, 0)
+QEL_VEC_ARRAY_SHAPE(Add, vac, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, OneArray, OneArray, va, src, c, val, 0)
+QEL_VEC_ARRAY_SHAPE(Add, vava, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, TwoArrays, TwoArrays, va, src1, va, src2, 0)
 // Add_vca in 64f _P tests no roi shift.
-QEL_VEC_ARRAY_SHAPE(Add, vca, "NCZS", "NCZSR", "NCZSR", "NCZS", P, ConstPerObj, ConstPerObj, VONE, src, CAR, val, 0)
+QEL_VEC_ARRAY_SHAPE(Add, vca, "NCZS", "NCZSR", "NCZSR", "NCZS", P, ConstPerObj, ConstPerObj, v, src, ca, val, 0)
 // Add_vaca in 32f _P leaves srcStride0 out of its stride checks.
-QEL_VEC_ARRAY_SHAPE(Add, vaca, "NCZS", "NCZSR", "NCZSR", "NCZSR", Pns, ConstArrays, ConstArrays, VARR, src, CAR, val, 0)
+QEL_VEC_ARRAY_SHAPE(Add, vaca, "NCZS", "NCZSR", "NCZSR", "NCZSR", Pns, ConstArrays, ConstArrays, va, src, ca, val, 0)
 
-QEL_VEC_ONCE_SHAPE(Sub, vv, VONE, src1, VONE, src2, 0)
-QEL_VEC_ONCE_SHAPE(Sub, vc, VONE, src, CON, val, 0)
-QEL_VEC_ONCE_SHAPE(Sub, cv, VONE, src, CON, val, 1)
-QEL_VEC_ARRAY_SHAPE(Sub, vav, "NZSC", "NZSRC", "NZSCR", "NZSCR", P, OneArray, OneArray, VARR, src1, VONE, src2, 0)
-QEL_VEC_ARRAY_SHAPE(Sub, vac, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, OneArray, OneArray, VARR, src, CON, val, 0)
-QEL_VEC_ARRAY_SHAPE(Sub, vca, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, ConstPerObj, ConstPerObj, VONE, src, CAR, val, 0)
-QEL_VEC_ARRAY_SHAPE(Sub, vava, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, TwoArrays, TwoArrays, VARR, src1, VARR, src2, 0)
-QEL_VEC_ARRAY_SHAPE(Sub, vaca, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, ConstArrays, ConstArrays, VARR, src, CAR, val, 0)
-QEL_VEC_ARRAY_SHAPE(Sub, cva, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, CountOnly, CountOnly, VARR, src, CON, val, 1)
-QEL_VEC_ARRAY_SHAPE(Sub, cava, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, ConstArrays, ConstArrays, VARR, src, CAR, val, 1)
+QEL_VEC_ONCE_SHAPE(Sub, vv, v, src1, v, src2, 0)
+QEL_VEC_ONCE_SHAPE(Sub, vc, v, src, c, val, 0)
+QEL_VEC_ONCE_SHAPE(Sub, cv, v, src, c, val, 1)
+QEL_VEC_ARRAY_SHAPE(Sub, vav, "NZSC", "NZSRC", "NZSCR", "NZSCR", P, OneArray, OneArray, va, src1, v, src2, 0)
+QEL_VEC_ARRAY_SHAPE(Sub, vac, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, OneArray, OneArray, va, src, c, val, 0)
+QEL_VEC_ARRAY_SHAPE(Sub, vca, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, ConstPerObj, ConstPerObj, v, src, ca, val, 0)
+QEL_VEC_ARRAY_SHAPE(Sub, vava, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, TwoArrays, TwoArrays, va, src1, va, src2, 0)
+QEL_VEC_ARRAY_SHAPE(Sub, vaca, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, ConstArrays, ConstArrays, va, src, ca, val, 0)
+QEL_VEC_ARRAY_SHAPE(Sub, cva, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, CountOnly, CountOnly, va, src, c, val, 1)
+QEL_VEC_ARRAY_SHAPE(Sub, cava, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, ConstArrays, ConstArrays, va, src, ca, val, 1)
 // Sub_cav in 32f _P tests no roi shift.
-QEL_VEC_ARRAY_SHAPE(Sub, cav, "NCZS", "NCZSR", "NCZS", "NCZSR", P, ConstPerObj, ConstPerObj, VONE, src, CAR, val, 1)
+QEL_VEC_ARRAY_SHAPE(Sub, cav, "NCZS", "NCZSR", "NCZS", "NCZSR", P, ConstPerObj, ConstPerObj, v, src, ca, val, 1)
 // Sub_vva in 64f _P has no work test and no driver.
-QEL_VEC_ARRAY_SHAPE(Sub, vva, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, OneArray, None, VONE, src1, VARR, src2, 0)
+QEL_VEC_ARRAY_SHAPE(Sub, vva, "NCZS", "NCZSR", "NCZSR", "NCZSR", P, OneArray, None, v, src1, va, src2, 0)

@@ -17,6 +17,7 @@
 #include "../frame/driver.h"
 #include "../frame/views.h"
 #include "../frame/lanes.h"
+#include "../frame/operands.h"
 #include "qelm/qelmtypes.h"
 
 #include <cstdint>
@@ -370,19 +371,17 @@ QelStatus perObjectKernel(const Line& line, const Dims& dm, A a, B b, D d, int c
 
 // ---------------------------------------------------------------- front-end
 
-enum class Form { Std, L, P };
-
 // Serial below 2501 only for 32f standard contiguous kernels, 3601 for the other
 // contiguous ones, 1441 for every general and _P kernel.
-template <class T, Form F>
-constexpr int32_t contiguousLimit = F == Form::P                                   ? 1441
-                                    : std::is_same_v<T, float> && F == Form::Std ? 2501
+template <class T, Layout F>
+constexpr int32_t contiguousLimit = F == Layout::P                                   ? 1441
+                                    : std::is_same_v<T, float> && F == Layout::S ? 2501
                                                                                    : 3601;
 constexpr int32_t generalLimit = 1441;
 
 // Checks N C Z M S R; the work figure counts every element touched, a single
 // operand once and an array operand `count` times.
-template <class T, Form F, bool PerObject, class A, class B, class D>
+template <class T, Layout F, bool PerObject, class A, class B, class D>
 QelStatus mulFront(const Line& line, A a, B b, D d, const Dims& dm, int count) {
   CheckGroups g = checkViews(count, {dm.w1, dm.h1, dm.w2, dm.h2}, a, b, d);
   g.match = dm.K == dm.K2;
@@ -407,33 +406,5 @@ QelStatus mulFront(const Line& line, A a, B b, D d, const Dims& dm, int count) {
                         WorkLimit::serialBelow(generalLimit));
   }
 }
-
-// ---------------------------------------------------------------- views of the exports
-
-template <class T>
-Single<Mat<const T>> one(const T* p, int s1, int s2) { return {{p, s1, s2}}; }
-template <class T>
-Single<Mat<T>> one(T* p, int s1, int s2) { return {{p, s1, s2}}; }
-template <class T>
-Single<MatP<const T>> oneP(const T* const* p, int shift, int rowLen) { return {{p, shift, rowLen}}; }
-template <class T>
-Single<MatP<T>> oneP(T* const* p, int shift, int rowLen) { return {{p, shift, rowLen}}; }
-template <class T>
-StridedArray<const T> array(const T* p, int s0, int s1, int s2) { return {p, s0, s1, s2}; }
-template <class T>
-StridedArray<T> array(T* p, int s0, int s1, int s2) { return {p, s0, s1, s2}; }
-template <class T>
-ListArray<const T> list(const T* const* p, int shift, int s1, int s2) { return {p, shift, s1, s2}; }
-template <class T>
-ListArray<T> list(T* const* p, int shift, int s1, int s2) { return {p, shift, s1, s2}; }
-template <class T>
-PointerArray<const T> arrayP(const T* const* p, int shift, int s0, int rowLen) { return {p, shift, s0, rowLen}; }
-template <class T>
-PointerArray<T> arrayP(T* const* p, int shift, int s0, int rowLen) { return {p, shift, s0, rowLen}; }
-
-template <class V>
-Single<Trans<V>> transposed(Single<V> s) { return {{s.v}}; }
-template <class A>
-TransArray<A> transposed(A a) { return {a}; }
 
 }  // namespace qel::mul
