@@ -1123,6 +1123,341 @@ QelStatus qelmMul_tata_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int sr
                              QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0, int src2Width, int src2Height,
                              QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
 
+/* ---- Mul of a matrix by a vector: dst = op(A) * x. */
+/* As in Mul over two matrices, src1Width and src1Height describe src1 as it
+ * lies in memory, transposed (t, ta) or not. m shapes need src2Len equal to
+ * src1Width and give src1Height results; t shapes need src2Len equal to
+ * src1Height and give src1Width results. dst has no length of its own.
+ * mva: one matrix, `count` vectors; mav: `count` matrices, one vector; mava:
+ * matrices and vectors in pairs. Inner products of 8 terms and more add in
+ * split blocks of eight; where one vector serves many rows the blocks start at
+ * its first 16-byte boundary, so the rounding may depend on where x lies. */
+
+QelStatus qelmMul_mv_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                         const Qel32f* src2, int src2Stride2, int src2Len,
+                         Qel32f* dst, int dstStride2);
+QelStatus qelmMul_mv_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Width, int src1Height,
+                           QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Len,
+                           QEL_DST_LIST(Qel32f) dst, int dstRoiShift);
+QelStatus qelmMul_mv_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                         const Qel64f* src2, int src2Stride2, int src2Len,
+                         Qel64f* dst, int dstStride2);
+QelStatus qelmMul_mv_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Width, int src1Height,
+                           QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Len,
+                           QEL_DST_LIST(Qel64f) dst, int dstRoiShift);
+QelStatus qelmMul_tv_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                         const Qel32f* src2, int src2Stride2, int src2Len,
+                         Qel32f* dst, int dstStride2);
+QelStatus qelmMul_tv_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Width, int src1Height,
+                           QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Len,
+                           QEL_DST_LIST(Qel32f) dst, int dstRoiShift);
+QelStatus qelmMul_tv_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                         const Qel64f* src2, int src2Stride2, int src2Len,
+                         Qel64f* dst, int dstStride2);
+QelStatus qelmMul_tv_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Width, int src1Height,
+                           QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Len,
+                           QEL_DST_LIST(Qel64f) dst, int dstRoiShift);
+QelStatus qelmMul_mva_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel32f* src2, int src2Stride0, int src2Stride2, int src2Len,
+                          Qel32f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmMul_mva_32f_L(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride2, int src2Len,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int count);
+QelStatus qelmMul_mva_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0, int src2Len,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_mva_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel64f* src2, int src2Stride0, int src2Stride2, int src2Len,
+                          Qel64f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmMul_mva_64f_L(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride2, int src2Len,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int count);
+QelStatus qelmMul_mva_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0, int src2Len,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_tva_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel32f* src2, int src2Stride0, int src2Stride2, int src2Len,
+                          Qel32f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmMul_tva_32f_L(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride2, int src2Len,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int count);
+QelStatus qelmMul_tva_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0, int src2Len,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_tva_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel64f* src2, int src2Stride0, int src2Stride2, int src2Len,
+                          Qel64f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmMul_tva_64f_L(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride2, int src2Len,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int count);
+QelStatus qelmMul_tva_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0, int src2Len,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_mav_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel32f* src2, int src2Stride2, int src2Len,
+                          Qel32f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmMul_mav_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            const Qel32f* src2, int src2Stride2, int src2Len,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int count);
+QelStatus qelmMul_mav_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Len,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_mav_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel64f* src2, int src2Stride2, int src2Len,
+                          Qel64f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmMul_mav_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            const Qel64f* src2, int src2Stride2, int src2Len,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int count);
+QelStatus qelmMul_mav_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Len,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_tav_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel32f* src2, int src2Stride2, int src2Len,
+                          Qel32f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmMul_tav_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            const Qel32f* src2, int src2Stride2, int src2Len,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int count);
+QelStatus qelmMul_tav_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Len,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_tav_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                          const Qel64f* src2, int src2Stride2, int src2Len,
+                          Qel64f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmMul_tav_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            const Qel64f* src2, int src2Stride2, int src2Len,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int count);
+QelStatus qelmMul_tav_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                            QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Len,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_mava_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                           const Qel32f* src2, int src2Stride0, int src2Stride2, int src2Len,
+                           Qel32f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmMul_mava_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride2, int src2Len,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int count);
+QelStatus qelmMul_mava_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0, int src2Len,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_mava_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                           const Qel64f* src2, int src2Stride0, int src2Stride2, int src2Len,
+                           Qel64f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmMul_mava_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride2, int src2Len,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int count);
+QelStatus qelmMul_mava_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0, int src2Len,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_tava_32f(const Qel32f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                           const Qel32f* src2, int src2Stride0, int src2Stride2, int src2Len,
+                           Qel32f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmMul_tava_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride2, int src2Len,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int count);
+QelStatus qelmMul_tava_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0, int src2Len,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmMul_tava_64f(const Qel64f* src1, int src1Stride0, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                           const Qel64f* src2, int src2Stride0, int src2Stride2, int src2Len,
+                           Qel64f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmMul_tava_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride2, int src2Len,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int count);
+QelStatus qelmMul_tava_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0, int src2Len,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+
+/* ---- Mul by a constant: every element of src times val. */
+/* mc, mac, vc and vac take one constant by value. vca multiplies one vector by
+ * each of `count` constants (object n is src * val[n]); vaca multiplies object
+ * n by constant n. Their constants are given like an operand: a pointer and
+ * valStride0, or in _L forms a list of `count` pointers and valRoiShift.
+ * width and height are those of the result, as in Add and Sub: for tc and tac
+ * the stored matrix has width rows and height columns. */
+
+QelStatus qelmMul_mc_32f(const Qel32f* src, int srcStride1, int srcStride2, Qel32f val,
+                         Qel32f* dst, int dstStride1, int dstStride2, int width, int height);
+QelStatus qelmMul_mc_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32f val,
+                           QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int width, int height);
+QelStatus qelmMul_mc_64f(const Qel64f* src, int srcStride1, int srcStride2, Qel64f val,
+                         Qel64f* dst, int dstStride1, int dstStride2, int width, int height);
+QelStatus qelmMul_mc_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, Qel64f val,
+                           QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int width, int height);
+QelStatus qelmMul_tc_32f(const Qel32f* src, int srcStride1, int srcStride2, Qel32f val,
+                         Qel32f* dst, int dstStride1, int dstStride2, int width, int height);
+QelStatus qelmMul_tc_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32f val,
+                           QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int width, int height);
+QelStatus qelmMul_tc_64f(const Qel64f* src, int srcStride1, int srcStride2, Qel64f val,
+                         Qel64f* dst, int dstStride1, int dstStride2, int width, int height);
+QelStatus qelmMul_tc_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, Qel64f val,
+                           QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int width, int height);
+QelStatus qelmMul_mac_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2,
+                          Qel32f val, Qel32f* dst, int dstStride0, int dstStride1, int dstStride2,
+                          int width, int height, int count);
+QelStatus qelmMul_mac_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1,
+                            int srcStride2, Qel32f val, QEL_DST_LIST(Qel32f) dst, int dstRoiShift,
+                            int dstStride1, int dstStride2, int width, int height, int count);
+QelStatus qelmMul_mac_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, Qel32f val,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int width,
+                            int height, int count);
+QelStatus qelmMul_mac_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2,
+                          Qel64f val, Qel64f* dst, int dstStride0, int dstStride1, int dstStride2,
+                          int width, int height, int count);
+QelStatus qelmMul_mac_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1,
+                            int srcStride2, Qel64f val, QEL_DST_LIST(Qel64f) dst, int dstRoiShift,
+                            int dstStride1, int dstStride2, int width, int height, int count);
+QelStatus qelmMul_mac_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, Qel64f val,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int width,
+                            int height, int count);
+QelStatus qelmMul_tac_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2,
+                          Qel32f val, Qel32f* dst, int dstStride0, int dstStride1, int dstStride2,
+                          int width, int height, int count);
+QelStatus qelmMul_tac_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1,
+                            int srcStride2, Qel32f val, QEL_DST_LIST(Qel32f) dst, int dstRoiShift,
+                            int dstStride1, int dstStride2, int width, int height, int count);
+QelStatus qelmMul_tac_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, Qel32f val,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int width,
+                            int height, int count);
+QelStatus qelmMul_tac_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2,
+                          Qel64f val, Qel64f* dst, int dstStride0, int dstStride1, int dstStride2,
+                          int width, int height, int count);
+QelStatus qelmMul_tac_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1,
+                            int srcStride2, Qel64f val, QEL_DST_LIST(Qel64f) dst, int dstRoiShift,
+                            int dstStride1, int dstStride2, int width, int height, int count);
+QelStatus qelmMul_tac_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, Qel64f val,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int width,
+                            int height, int count);
+QelStatus qelmMul_vc_32f(const Qel32f* src, int srcStride2, Qel32f val, Qel32f* dst,
+                         int dstStride2, int len);
+QelStatus qelmMul_vc_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32f val,
+                           QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int len);
+QelStatus qelmMul_vc_64f(const Qel64f* src, int srcStride2, Qel64f val, Qel64f* dst,
+                         int dstStride2, int len);
+QelStatus qelmMul_vc_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, Qel64f val,
+                           QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int len);
+QelStatus qelmMul_vac_32f(const Qel32f* src, int srcStride0, int srcStride2, Qel32f val,
+                          Qel32f* dst, int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmMul_vac_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride2, Qel32f val,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int len,
+                            int count);
+QelStatus qelmMul_vac_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, Qel32f val,
+                            QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int len,
+                            int count);
+QelStatus qelmMul_vac_64f(const Qel64f* src, int srcStride0, int srcStride2, Qel64f val,
+                          Qel64f* dst, int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmMul_vac_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride2, Qel64f val,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int len,
+                            int count);
+QelStatus qelmMul_vac_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, Qel64f val,
+                            QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int len,
+                            int count);
+QelStatus qelmMul_vca_32f(const Qel32f* src, int srcStride2, const Qel32f* val, int valStride0,
+                          Qel32f* dst, int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmMul_vca_32f_L(const Qel32f* src, int srcStride2, QEL_SRC_LIST(Qel32f) val,
+                            int valRoiShift, QEL_DST_LIST(Qel32f) dst, int dstRoiShift,
+                            int dstStride2, int len, int count);
+QelStatus qelmMul_vca_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, const Qel32f* val,
+                            int valStride0, QEL_DST_LIST(Qel32f) dst, int dstRoiShift,
+                            int dstStride0, int len, int count);
+QelStatus qelmMul_vca_64f(const Qel64f* src, int srcStride2, const Qel64f* val, int valStride0,
+                          Qel64f* dst, int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmMul_vca_64f_L(const Qel64f* src, int srcStride2, QEL_SRC_LIST(Qel64f) val,
+                            int valRoiShift, QEL_DST_LIST(Qel64f) dst, int dstRoiShift,
+                            int dstStride2, int len, int count);
+QelStatus qelmMul_vca_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, const Qel64f* val,
+                            int valStride0, QEL_DST_LIST(Qel64f) dst, int dstRoiShift,
+                            int dstStride0, int len, int count);
+QelStatus qelmMul_vaca_32f(const Qel32f* src, int srcStride0, int srcStride2, const Qel32f* val,
+                           int valStride0, Qel32f* dst, int dstStride0, int dstStride2, int len,
+                           int count);
+QelStatus qelmMul_vaca_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride2,
+                             QEL_SRC_LIST(Qel32f) val, int valRoiShift, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmMul_vaca_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0,
+                             const Qel32f* val, int valStride0, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmMul_vaca_64f(const Qel64f* src, int srcStride0, int srcStride2, const Qel64f* val,
+                           int valStride0, Qel64f* dst, int dstStride0, int dstStride2, int len,
+                           int count);
+QelStatus qelmMul_vaca_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride2,
+                             QEL_SRC_LIST(Qel64f) val, int valRoiShift, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmMul_vaca_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0,
+                             const Qel64f* val, int valStride0, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int dstStride0, int len, int count);
+
+/* ---- Gaxpy: dst = A * x + z. */
+/* src1 is the one matrix A, never transposed, of src1Width columns and
+ * src1Height rows; src2 is x with src2Len equal to src1Width, src3 is z with
+ * src3Len equal to src1Height, and dst holds src1Height elements. Each inner
+ * product is finished before z is added to it. mva: `count` pairs of x and z;
+ * mvav: `count` vectors x and the one z for all of them. dst must not overlap
+ * src2 or src3. */
+
+QelStatus qelmGaxpy_mv_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                           const Qel32f* src2, int src2Stride2, int src2Len,
+                           const Qel32f* src3, int src3Stride2, int src3Len,
+                           Qel32f* dst, int dstStride2);
+QelStatus qelmGaxpy_mv_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Len,
+                             QEL_SRC_LIST(Qel32f) src3, int src3RoiShift, int src3Len,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift);
+QelStatus qelmGaxpy_mv_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                           const Qel64f* src2, int src2Stride2, int src2Len,
+                           const Qel64f* src3, int src3Stride2, int src3Len,
+                           Qel64f* dst, int dstStride2);
+QelStatus qelmGaxpy_mv_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Width, int src1Height,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Len,
+                             QEL_SRC_LIST(Qel64f) src3, int src3RoiShift, int src3Len,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift);
+QelStatus qelmGaxpy_mva_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            const Qel32f* src2, int src2Stride0, int src2Stride2, int src2Len,
+                            const Qel32f* src3, int src3Stride0, int src3Stride2, int src3Len,
+                            Qel32f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmGaxpy_mva_32f_L(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                              QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride2, int src2Len,
+                              QEL_SRC_LIST(Qel32f) src3, int src3RoiShift, int src3Stride2, int src3Len,
+                              QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int count);
+QelStatus qelmGaxpy_mva_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Width, int src1Height,
+                              QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0, int src2Len,
+                              QEL_SRC_LIST(Qel32f) src3, int src3RoiShift, int src3Stride0, int src3Len,
+                              QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmGaxpy_mva_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                            const Qel64f* src2, int src2Stride0, int src2Stride2, int src2Len,
+                            const Qel64f* src3, int src3Stride0, int src3Stride2, int src3Len,
+                            Qel64f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmGaxpy_mva_64f_L(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                              QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride2, int src2Len,
+                              QEL_SRC_LIST(Qel64f) src3, int src3RoiShift, int src3Stride2, int src3Len,
+                              QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int count);
+QelStatus qelmGaxpy_mva_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Width, int src1Height,
+                              QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0, int src2Len,
+                              QEL_SRC_LIST(Qel64f) src3, int src3RoiShift, int src3Stride0, int src3Len,
+                              QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmGaxpy_mvav_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                             const Qel32f* src2, int src2Stride0, int src2Stride2, int src2Len,
+                             const Qel32f* src3, int src3Stride2, int src3Len,
+                             Qel32f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmGaxpy_mvav_32f_L(const Qel32f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                               QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride2, int src2Len,
+                               const Qel32f* src3, int src3Stride2, int src3Len,
+                               QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int count);
+QelStatus qelmGaxpy_mvav_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Width, int src1Height,
+                               QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0, int src2Len,
+                               QEL_SRC_LIST(Qel32f) src3, int src3RoiShift, int src3Len,
+                               QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmGaxpy_mvav_64f(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                             const Qel64f* src2, int src2Stride0, int src2Stride2, int src2Len,
+                             const Qel64f* src3, int src3Stride2, int src3Len,
+                             Qel64f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmGaxpy_mvav_64f_L(const Qel64f* src1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,
+                               QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride2, int src2Len,
+                               const Qel64f* src3, int src3Stride2, int src3Len,
+                               QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int count);
+QelStatus qelmGaxpy_mvav_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Width, int src1Height,
+                               QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0, int src2Len,
+                               QEL_SRC_LIST(Qel64f) src3, int src3RoiShift, int src3Len,
+                               QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+
 /* ---- LUDecomp and LUBackSubst. */
 
 /* LUDecomp: Gaussian elimination with partial pivoting on the index array alone.
