@@ -1,5 +1,4 @@
-// SSE registers seen as rows of a small matrix, and the split accumulator of a
-// long inner product in vector form.
+// SSE registers seen as rows of a small matrix.
 //
 // A row of C elements is held in ceil(C / lanes) registers; the unused lanes of
 // the last one are zero and are never stored, so no byte outside a row is read
@@ -32,6 +31,7 @@ struct Lanes<float> {
   static constexpr int L = 4;
   static V zero() { return _mm_setzero_ps(); }
   static V splat(float x) { return _mm_set1_ps(x); }
+  static V first(float x) { return _mm_set_ss(x); }  // x in lane 0, the rest zero
   template <int I>
   static V splatLane(V v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(I, I, I, I)); }
   static V mul(V a, V b) { return _mm_mul_ps(a, b); }
@@ -79,6 +79,7 @@ struct Lanes<double> {
   static constexpr int L = 2;
   static V zero() { return _mm_setzero_pd(); }
   static V splat(double x) { return _mm_set1_pd(x); }
+  static V first(double x) { return _mm_set_sd(x); }
   template <int I>
   static V splatLane(V v) { return _mm_shuffle_pd(v, v, I ? 3 : 0); }
   static V mul(V a, V b) { return _mm_mul_pd(a, b); }
@@ -96,38 +97,6 @@ struct Lanes<double> {
     else _mm_store_sd(p, v);
   }
   static V gather(double a, double b) { return _mm_setr_pd(a, b); }
-};
-
-// Split accumulation of one inner product in registers: over each block of 8
-// terms, accumulator A takes the registers of even position and B those of odd
-// position. For Qel32f that is A = terms 0..3, B = terms 4..7 of the block; for
-// Qel64f A = terms 0, 1 and 4, 5, B = terms 2, 3 and 6, 7, each lane adding its
-// terms in ascending order. reduce() folds S = A + B as (S0 + S1) + (S2 + S3),
-// or S0 + S1. The bits are those of the plain split sum in frame/sums.h.
-template <class T>
-struct SplitAccumulator {
-  using S = Lanes<T>;
-  using V = typename S::V;
-  static constexpr int perBlock = 8 / S::L;  // registers per block of 8 terms
-
-  V a = S::zero(), b = S::zero();
-
-  // x[q] * y[q] for the registers q of one block, in ascending q.
-  void addBlock(const V (&x)[perBlock], const V (&y)[perBlock]) {
-    unroll<perBlock>([&](auto q) {
-      if constexpr (q % 2 == 0) a = S::add(a, S::mul(x[q], y[q]));
-      else b = S::add(b, S::mul(x[q], y[q]));
-    });
-  }
-  T reduce() const {
-    const V s = S::add(a, b);
-    if constexpr (S::L == 4) {
-      const V pairs = _mm_add_ps(s, _mm_shuffle_ps(s, s, _MM_SHUFFLE(2, 3, 0, 1)));  // s0+s1, _, s2+s3, _
-      return _mm_cvtss_f32(_mm_add_ss(pairs, _mm_movehl_ps(pairs, pairs)));
-    } else {
-      return _mm_cvtsd_f64(_mm_add_sd(s, _mm_unpackhi_pd(s, s)));
-    }
-  }
 };
 
 }  // namespace qel

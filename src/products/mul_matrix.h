@@ -17,6 +17,7 @@
 #include "../frame/driver.h"
 #include "../frame/views.h"
 #include "../frame/lanes.h"
+#include "../frame/sums.h"
 #include "../frame/operands.h"
 #include "qelm/qelmtypes.h"
 

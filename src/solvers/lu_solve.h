@@ -39,11 +39,11 @@ void solveGeneral(M a, const Qel32s* p, B b, X x, int n) {
   }
   auto sum = [&](int pk, int j0, int K) {
     if (K == 0) return T(0);  // nothing to read, not even the address of x(j0)
-    auto term = [&](int m) { return T(a.at(pk, j0 + m) * x.at(0, j0 + m)); };
+    const auto terms = gatheredTerms<T>([&](int m) { return T(a.at(pk, j0 + m) * x.at(0, j0 + m)); });
     if constexpr (Peel)
-      return alignedSplitSum<T>(&x.at(0, j0), K, term);
+      return alignedSplitSum<T>(&x.at(0, j0), int(sizeof(T)), K, terms);
     else
-      return splitSum<T>(K, term);
+      return splitSum<T>(K, terms);
   };
   for (int k = 0; k < n; ++k) {
     const int pk = p[k];
