@@ -12,6 +12,8 @@
 
 // The main job: factor and solve many 4x4 systems (demo_lu.cpp).
 int demoLuRoad(int count, int budget);
+// Points and bodies moved by rotations (demo_transform.cpp).
+int demoTransformRoad(int count, int budget);
 
 namespace {
 
@@ -81,6 +83,9 @@ int main(int argc, char** argv) {
     failures += demoLuRoad(systems, 1);
     failures += demoLuRoad(systems, 4);
   }
+  std::printf("\n");
+  failures += demoTransformRoad(count, 1);
+  failures += demoTransformRoad(count, 4);
   std::printf("\n");
   failures += demoAddMatrices(count, 1);
   failures += demoAddMatrices(count, 4);

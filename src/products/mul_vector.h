@@ -170,13 +170,12 @@ struct NoAddend {
 };
 
 // One object: every product of column k with x(k), summed by the tree, then z.
-template <class T, int N, Sums Tree, class OX, class OZ, class OD>
-inline void squareObject(const Columns<T, N>& a, const OX& x, const OZ& z,
+template <class T, int N, Sums Tree, class OZ, class OD>
+inline void squareObject(const Columns<T, N>& a, const typename Lanes<T>::V (&xs)[N], const OZ& z,
                          const typename Lanes<T>::V* heldZ, const OD& d) {
   using C = Columns<T, N>;
   using V = typename Lanes<T>::V;
-  V xs[N], y[C::R];
-  splatVector<T, N>(x, xs);
+  V y[C::R];
   unroll<C::R>([&](auto r) {
     V t[N];
     unroll<N>([&](auto k) { t[k] = Lanes<T>::mul(xs[k], a.c[k][r]); });
@@ -190,8 +189,8 @@ inline void squareObject(const Columns<T, N>& a, const OX& x, const OZ& z,
   storeLanes<T, N>(d, y);
 }
 
-// Each object in order; a single matrix (and a single z) is read once, ahead
-// of the loop.
+// Each object in order; a single operand (matrix, vector or z) is read once,
+// ahead of the loop.
 template <int N, Sums Tree, class A, class X, class Z, class D>
 [[gnu::flatten]] void squareProducts(A a, X x, Z z, D d, int count) {
   using T = ElemOf<D>;
@@ -202,12 +201,17 @@ template <int N, Sums Tree, class A, class X, class Z, class D>
     loadLanes<T, N>(z.object(0), zs);
     heldZ = zs;
   }
+  V xs[N];
+  if constexpr (!X::isArray) splatVector<T, N>(x.object(0), xs);
+  auto one = [&](const Columns<T, N>& cols, int n) {
+    if constexpr (X::isArray) splatVector<T, N>(x.object(n), xs);
+    squareObject<T, N, Tree>(cols, xs, z.object(n), heldZ, d.object(n));
+  };
   if constexpr (!A::isArray) {
     const Columns<T, N> cols = loadColumns<T, N>(a.object(0));
-    for (int n = 0; n < count; ++n) squareObject<T, N, Tree>(cols, x.object(n), z.object(n), heldZ, d.object(n));
+    for (int n = 0; n < count; ++n) one(cols, n);
   } else {
-    for (int n = 0; n < count; ++n)
-      squareObject<T, N, Tree>(loadColumns<T, N>(a.object(n)), x.object(n), z.object(n), heldZ, d.object(n));
+    for (int n = 0; n < count; ++n) one(loadColumns<T, N>(a.object(n)), n);
   }
 }
 
