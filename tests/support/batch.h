@@ -33,7 +33,10 @@ constexpr unsigned char kCanary = 0xA5;
 template <class T>
 class Batch {
  public:
-  Batch(int rows, int cols, int count, Form form = Form::Packed) : rows_(rows), cols_(cols), count_(count) {
+  // `skew` moves the whole block by that many bytes, to place an operand at a
+  // chosen address (even one that is no multiple of the element size).
+  Batch(int rows, int cols, int count, Form form = Form::Packed, int skew = 0)
+      : rows_(rows), cols_(cols), count_(count) {
     const int e = sizeof(T);
     switch (form) {
       case Form::Packed:
@@ -47,6 +50,7 @@ class Batch {
     bytes_.assign(kFront + span + kBack + 64, kCanary);
     size_t start = (64 - reinterpret_cast<uintptr_t>(bytes_.data()) % 64) % 64 + kFront;
     if (form == Form::Unaligned) start += e;
+    start += skew;
     base_ = bytes_.data() + start;
     for (int n = 0; n < count; ++n) list_.push_back(reinterpret_cast<T*>(base_ + size_t(n) * s0 - listShift));
     for (int i = 0; i < rows; ++i)
@@ -60,6 +64,14 @@ class Batch {
 
   T& at(int n, int i, int j) { return *reinterpret_cast<T*>(base_ + offset(n, i, j)); }
   T at(int n, int i, int j) const { return *reinterpret_cast<const T*>(base_ + offset(n, i, j)); }
+  // By bytes, so a skewed block is read and written without misaligned access.
+  T get(int n, int i, int j) const {
+    T v;
+    std::memcpy(&v, base_ + offset(n, i, j), sizeof(T));
+    return v;
+  }
+  void set(int n, int i, int j, T v) { std::memcpy(base_ + offset(n, i, j), &v, sizeof(T)); }
+  uintptr_t address(int n, int i = 0, int j = 0) const { return reinterpret_cast<uintptr_t>(base_ + offset(n, i, j)); }
 
   // Standard description.
   T* ptr() { return reinterpret_cast<T*>(base_); }
@@ -76,13 +88,13 @@ class Batch {
     std::uniform_real_distribution<double> dist(lo, hi);
     for (int n = 0; n < count_; ++n)
       for (int i = 0; i < rows_; ++i)
-        for (int j = 0; j < cols_; ++j) at(n, i, j) = T(dist(rng));
+        for (int j = 0; j < cols_; ++j) set(n, i, j, T(dist(rng)));
   }
   // Every element back to the canary pattern.
   void fillCanary() {
     for (int n = 0; n < count_; ++n)
       for (int i = 0; i < rows_; ++i)
-        for (int j = 0; j < cols_; ++j) std::memset(&at(n, i, j), kCanary, sizeof(T));
+        for (int j = 0; j < cols_; ++j) std::memset(base_ + offset(n, i, j), kCanary, sizeof(T));
   }
   // No byte outside the described elements has changed.
   bool outsideIntact() const {
@@ -105,7 +117,7 @@ class Batch {
     std::vector<T> v;
     for (int n = 0; n < count_; ++n)
       for (int i = 0; i < rows_; ++i)
-        for (int j = 0; j < cols_; ++j) v.push_back(at(n, i, j));
+        for (int j = 0; j < cols_; ++j) v.push_back(get(n, i, j));
     return v;
   }
 
