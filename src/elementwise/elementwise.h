@@ -27,6 +27,13 @@ struct SubOp {
   static __m128 apply(__m128 a, __m128 b) { return _mm_sub_ps(a, b); }
   static __m128d apply(__m128d a, __m128d b) { return _mm_sub_pd(a, b); }
 };
+// Mul by a constant: each element one product, the constant as operand B.
+struct MulOp {
+  template <class T>
+  static T apply(T a, T b) { return a * b; }
+  static __m128 apply(__m128 a, __m128 b) { return _mm_mul_ps(a, b); }
+  static __m128d apply(__m128d a, __m128d b) { return _mm_mul_pd(a, b); }
+};
 
 // ------------------------------------------------ objects held in SSE registers
 //
@@ -309,8 +316,9 @@ void unrolledGeneric(A a, B b, D d, int count) {
 }
 
 // Arrays packed without any gap (rows back to back, objects back to back) are
-// one long run of elements: the whole call is a single forward pass in vector
-// units. Every element still gets its one operation.
+// one long run of elements, against another such run or one constant: the
+// whole call is a single forward pass in vector units. Every element still
+// gets its one operation.
 template <class V>
 constexpr bool isStridedContiguous =
     std::is_same_v<V, StridedArray<const typename V::Object::Elem, true>> ||
@@ -322,8 +330,27 @@ inline bool isDense(const V& v, int width, int height) {
   return (height == 1 || v.s1 == width * e) && v.s0 == height * width * e;
 }
 
-template <class Op, class T>
-void flatRun(const T* a, const T* b, T* d, size_t n) {
+// Operand B of a flat run: a run as long as A's, or one constant spread over a
+// register once, which makes a scaling stream at copy bandwidth.
+template <class T>
+struct RunOperand {
+  const T* p;
+  typename Lanes<T>::V lanes(size_t k) const { return Lanes<T>::template load<Lanes<T>::L>(p + k); }
+  T at(size_t k) const { return p[k]; }
+};
+template <class T>
+struct SplatOperand {
+  T val;
+  typename Lanes<T>::V v = Lanes<T>::splat(val);
+  typename Lanes<T>::V lanes(size_t) const { return v; }
+  T at(size_t) const { return val; }
+};
+
+template <class V>
+constexpr bool isSingleConstant = std::is_same_v<V, Single<Const<typename V::Object::Elem>>>;
+
+template <class Op, class T, class B>
+void flatRun(const T* a, const B& b, T* d, size_t n) {
   using S = Lanes<T>;
   constexpr size_t W = S::L;
   size_t k = 0;
@@ -332,12 +359,12 @@ void flatRun(const T* a, const T* b, T* d, size_t n) {
   for (; k + 4 * W <= n; k += 4 * W) {
     typename S::V r[4];
     for (size_t u = 0; u < 4; ++u)
-      r[u] = Op::apply(S::template load<W>(a + k + u * W), S::template load<W>(b + k + u * W));
+      r[u] = Op::apply(S::template load<W>(a + k + u * W), b.lanes(k + u * W));
     for (size_t u = 0; u < 4; ++u) S::template store<W>(d + k + u * W, r[u]);
   }
   for (; k + W <= n; k += W)
-    S::template store<W>(d + k, Op::apply(S::template load<W>(a + k), S::template load<W>(b + k)));
-  for (; k < n; ++k) d[k] = Op::apply(a[k], b[k]);
+    S::template store<W>(d + k, Op::apply(S::template load<W>(a + k), b.lanes(k)));
+  for (; k < n; ++k) d[k] = Op::apply(a[k], b.at(k));
 }
 
 // The whole kernel over arrays. Square matrices of 3 to 6 (Rows = 0: height
@@ -345,11 +372,18 @@ void flatRun(const T* a, const T* b, T* d, size_t n) {
 // other size is a plain loop with objects outermost, then rows, then elements.
 template <class Op, int Rows, class A, class B, class D>
 QelStatus elementwise(A a, B b, D d, int width, int height, int count) {
-  if constexpr (isStridedContiguous<A> && isStridedContiguous<B> && isStridedContiguous<D>) {
+  if constexpr (isStridedContiguous<A> && isStridedContiguous<D> &&
+                (isStridedContiguous<B> || isSingleConstant<B>)) {
     const int rows = Rows == 1 ? 1 : height;
-    if (isDense(a, width, rows) && isDense(b, width, rows) && isDense(d, width, rows)) {
-      flatRun<Op>(a.base, b.base, d.base, size_t(width) * size_t(rows) * size_t(count));
-      return qelStatusOk;
+    const size_t n = size_t(width) * size_t(rows) * size_t(count);
+    if (isDense(a, width, rows) && isDense(d, width, rows)) {
+      if constexpr (isSingleConstant<B>) {
+        flatRun<Op>(a.base, SplatOperand<typename B::Object::Elem>{b.v.val}, d.base, n);
+        return qelStatusOk;
+      } else if (isDense(b, width, rows)) {
+        flatRun<Op>(a.base, RunOperand<typename B::Object::Elem>{b.base}, d.base, n);
+        return qelStatusOk;
+      }
     }
   }
   if ((Rows == 1 || width == height) && width >= 3 && width <= 6) {
