@@ -90,6 +90,11 @@ class Batch {
       for (int i = 0; i < rows_; ++i)
         for (int j = 0; j < cols_; ++j) set(n, i, j, T(dist(rng)));
   }
+  void fill(T v) {
+    for (int n = 0; n < count_; ++n)
+      for (int i = 0; i < rows_; ++i)
+        for (int j = 0; j < cols_; ++j) set(n, i, j, v);
+  }
   // Every element back to the canary pattern.
   void fillCanary() {
     for (int n = 0; n < count_; ++n)

@@ -4,6 +4,9 @@
 // (so a check test spoils only what exists), the team's shares and two sums.
 #pragma once
 
+#include <qelm/qelm.h>
+
+#include <array>
 #include <tuple>
 #include <vector>
 
@@ -66,6 +69,56 @@ inline bool passes(Desc d, bool array, bool matrix, int field) {
 template <class T>
 int& fieldOf(Operand<T>& o, int f) {
   return f == 0 ? o.s0 : f == 1 ? o.s1 : f == 2 ? o.s2 : o.shift;
+}
+
+// The checks of a front-end in their order N C Z M S R. Each group is spoiled
+// alone and, but for R, with a later group spoiled too; `attempt(want, spoil)`
+// makes a fresh call after spoil(ops, count) and expects `want` with the result
+// untouched. Sizes and mismatches are (operand, width or else height); the
+// first operand is the matrix.
+template <class T, size_t N, class Attempt>
+void checksInOrder(Desc desc, const std::array<bool, N>& array, bool hasCount,
+                   const std::vector<std::pair<int, bool>>& sizes,
+                   const std::vector<std::pair<int, bool>>& mismatches, Attempt attempt) {
+  using Ops = std::array<Operand<T>, N>;
+  const int el = sizeof(T), half = el / 2;
+  auto size = [](Ops& o, std::pair<int, bool> s) -> int& { return s.second ? o[s.first].w : o[s.first].h; };
+  bool anyStride = false;
+  for (size_t k = 0; k < N; ++k)
+    for (int f = 0; f < 3; ++f) anyStride |= passes(desc, array[k], k == 0, f);
+  auto badStride = [&](Ops& o) {
+    for (size_t k = 0; k < N; ++k)
+      for (int f = 0; f < 3; ++f)
+        if (passes(desc, array[k], k == 0, f)) return void(fieldOf(o[k], f) = half);
+  };
+  for (size_t k = 0; k < N; ++k)
+    attempt(qelStatusNullPointer, [&](Ops& o, int& count) {
+      o[k].ptr = nullptr, o[k].list = nullptr, o[k].elems = nullptr, count = 0, size(o, sizes[0]) = 0;
+    });
+  if (hasCount)
+    for (int bad : {0, -1}) attempt(qelStatusBadCount, [&](Ops& o, int& count) { count = bad, size(o, sizes[0]) = 0; });
+  for (auto s : sizes)
+    for (int bad : {0, -3}) attempt(qelStatusBadSize, [&](Ops& o, int&) { size(o, s) = bad, badStride(o); });
+  for (auto s : mismatches) attempt(qelStatusSizeMismatch, [&](Ops& o, int&) { size(o, s) += 1, badStride(o); });
+  for (size_t k = 0; k < N; ++k)
+    for (int f = 0; f < 4; ++f) {
+      if (!passes(desc, array[k], k == 0, f)) continue;
+      for (int bad : f == 3 ? std::vector<int>{half, -el} : std::vector<int>{half, 0, -el})
+        attempt(f == 3 ? qelStatusBadRoiShift : qelStatusBadStride, [&](Ops& o, int&) { fieldOf(o[k], f) = bad; });
+      if (f == 3 && anyStride)
+        attempt(qelStatusBadStride, [&](Ops& o, int&) { fieldOf(o[k], f) = half, badStride(o); });
+    }
+}
+
+// Sizes up to 64 and a count of at least 2 whose work base + per x count, with
+// {base, per} = parts(M, K), is the target; all 0 if there are none.
+template <class Parts>
+std::tuple<int, int, int> sizesForWork(int target, Parts parts) {
+  for (int m = 1; m <= 64; ++m)
+    for (int k = 1; k <= 64; ++k)
+      if (auto [base, per] = parts(m, k); (target - base) % per == 0 && target - base >= 2 * per)
+        return {m, k, (target - base) / per};
+  return {0, 0, 0};
 }
 
 // The shares of a forked team: the first count % threads take one more.
