@@ -9,7 +9,6 @@
 #include <cstring>
 #include <map>
 #include <memory>
-#include <set>
 
 #include "batch.h"
 #include "feed.h"
@@ -71,9 +70,14 @@ const std::vector<Export>& exports() {
   return all;
 }
 
+// One argument of a kind (pointer, stride, shift, size, count), picked by its
+// place among those of its kind, takes a bad value.
+struct Bad {
+  int at = -1, value = 0, seen = 0;
+  int take(int v) { return seen++ == at ? value : v; }
+};
+
 // One call: src (a transposed one stored width by height), the constants, dst.
-// Defects name check groups: null src, zero count or width, a bad last stride
-// or a negative shift on dst.
 template <class T>
 struct Call {
   const Export& ex;
@@ -82,6 +86,7 @@ struct Call {
   std::vector<T> before;
   T val;
   bool inPlace;
+  std::map<char, Bad> bad;  // by check group: N C Z S R
 
   Call(const Export& e, int w_, int h_, int count_, Form fs, Form fd, uint32_t seed, bool inPlace_ = false)
       : ex(e), w(w_), h(h_), count(count_), rows(isVector(e.shape) ? 1 : transposed(e.shape) ? w : h),
@@ -99,32 +104,33 @@ struct Call {
   }
   Batch<T>& out() { return inPlace ? *src : *dst; }
 
-  void push(Feed& f, Batch<T>& b, bool array, bool vec, bool null, int badStride, int badShift) {
-    auto last = [&](int s) { f.num(badStride ? badStride : s); };
-    const void* p = ex.lay == P ? (const void*)b.elems() : ex.lay == L && array ? (const void*)b.list() : b.ptr();
-    f.ptr(null ? nullptr : p);
+  void pointer(Feed& f, const void* p) { f.ptr(bad['N'].take(1) ? p : nullptr); }
+  void push(Feed& f, Batch<T>& b, bool array, bool vec) {
+    auto stride = [&](int s) { f.num(bad['S'].take(s)); };
+    auto shift = [&](int s) { f.num(bad['R'].take(s)); };
+    pointer(f, ex.lay == P ? (const void*)b.elems() : ex.lay == L && array ? (const void*)b.list() : b.ptr());
     if (ex.lay == P) {
-      f.num(badShift ? badShift : Batch<T>::elemShift);
-      if (array) last(b.s0);
+      shift(Batch<T>::elemShift);
+      if (array) stride(b.s0);
       return;
     }
-    if (array) f.num(ex.lay == S ? b.s0 : badShift ? badShift : Batch<T>::listShift);
-    if (!vec) f.num(b.s1);
-    last(b.s2);
+    if (array) ex.lay == S ? stride(b.s0) : shift(Batch<T>::listShift);
+    if (!vec) stride(b.s1);
+    stride(b.s2);
   }
 
-  QelStatus run(std::set<char> defects = {}) {
+  QelStatus run() {
+    for (auto& [group, b] : bad) b.seen = 0;
     Feed f;
     const Shape s = ex.shape;
-    push(f, *src, srcArray(s), isVector(s), defects.count('N'), 0, 0);
+    push(f, *src, srcArray(s), isVector(s));
     if (s < VCA) f.val(val);
-    else if (ex.lay == L) f.ptr(vals->list()).num(Batch<T>::listShift);
-    else f.ptr(vals->ptr()).num(vals->s0);
-    push(f, out(), hasCount(s), isVector(s), false, defects.count('S') ? 2 : 0,
-         defects.count('R') ? -int(sizeof(T)) : 0);
-    f.num(defects.count('Z') ? 0 : w);
-    if (!isVector(s)) f.num(h);
-    if (hasCount(s)) f.num(defects.count('C') ? 0 : count);
+    else if (ex.lay == L) pointer(f, vals->list()), f.num(bad['R'].take(Batch<T>::listShift));
+    else pointer(f, vals->ptr()), f.num(bad['S'].take(vals->s0));
+    push(f, out(), hasCount(s), isVector(s));
+    f.num(bad['Z'].take(w));
+    if (!isVector(s)) f.num(bad['Z'].take(h));
+    if (hasCount(s)) f.num(bad['C'].take(count));
     return ex.call(f);
   }
 
@@ -175,21 +181,37 @@ TEST(MulConst, EveryExportEveryDescriptionEverySize) {
   });
 }
 
+const std::map<char, QelStatus> kStatus = {{'N', qelStatusNullPointer}, {'C', qelStatusBadCount},
+                                           {'Z', qelStatusBadSize}, {'S', qelStatusBadStride},
+                                           {'R', qelStatusBadRoiShift}};
+
 // Each group of the order alone, then with every later one: the earlier group
-// reports, and nothing is written.
+// reports. Then every argument of every group alone, with each kind of bad
+// value. Nothing is written.
 TEST(MulConst, CheckOrderAndCanaries) {
-  const std::map<char, QelStatus> status = {{'N', qelStatusNullPointer}, {'C', qelStatusBadCount},
-                                            {'Z', qelStatusBadSize}, {'S', qelStatusBadStride},
-                                            {'R', qelStatusBadRoiShift}};
   forEachExport([&]<class T>(const Export& ex) {
     const std::string order = std::string(hasCount(ex.shape) ? "NCZ" : "NZ") +
                               (ex.lay == S ? "S" : hasCount(ex.shape) ? "SR" : "R");
+    const int e = sizeof(T);
+    const std::map<char, std::vector<int>> values = {
+        {'N', {0}}, {'C', {0, -1}}, {'Z', {0, -3}}, {'S', {e / 2, 0, -e}}, {'R', {-e, e / 2}}};
     for (size_t x = 0; x < order.size(); ++x)
       for (size_t y = x; y < order.size(); ++y) {
         Call<T> c(ex, 4, 4, 3, Form::Packed, Form::Packed, 1);
-        EXPECT_EQ(c.run({order[x], order[y]}), status.at(order[x])) << ex.name << " " << order[x] << order[y];
+        c.bad[order[x]] = {0, values.at(order[x])[0]}, c.bad[order[y]] = {0, values.at(order[y])[0]};
+        EXPECT_EQ(c.run(), kStatus.at(order[x])) << ex.name << " " << order[x] << order[y];
         EXPECT_TRUE(c.dst->untouched()) << ex.name << " wrote on a failed check";
       }
+    Call<T> probe(ex, 4, 4, 3, Form::Packed, Form::Packed, 1);
+    ASSERT_EQ(probe.run(), qelStatusOk);
+    for (char group : order)
+      for (int at = 0; at < probe.bad[group].seen; ++at)
+        for (int value : values.at(group)) {
+          Call<T> c(ex, 4, 4, 3, Form::Packed, Form::Packed, 1);
+          c.bad[group] = {at, value};
+          EXPECT_EQ(c.run(), kStatus.at(group)) << ex.name << " " << group << at << " = " << value;
+          EXPECT_TRUE(c.dst->untouched()) << ex.name << " wrote on a failed check";
+        }
   });
 }
 
