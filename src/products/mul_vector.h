@@ -189,6 +189,62 @@ inline void squareObject(const Columns<T, N>& a, const typename Lanes<T>::V (&xs
   storeLanes<T, N>(d, y);
 }
 
+// Four packed 3-element Qel32f vectors as three registers, and back.
+inline void unpack3(const float* p, __m128 (&v)[3]) {
+  const __m128 r0 = _mm_loadu_ps(p), r1 = _mm_loadu_ps(p + 4), r2 = _mm_loadu_ps(p + 8);
+  v[0] = _mm_shuffle_ps(r0, _mm_shuffle_ps(r1, r2, _MM_SHUFFLE(1, 1, 2, 2)), _MM_SHUFFLE(2, 0, 3, 0));
+  v[1] = _mm_shuffle_ps(_mm_shuffle_ps(r0, r1, _MM_SHUFFLE(0, 0, 1, 1)),
+                        _mm_shuffle_ps(r1, r2, _MM_SHUFFLE(2, 2, 3, 3)), _MM_SHUFFLE(2, 0, 2, 0));
+  v[2] = _mm_shuffle_ps(_mm_shuffle_ps(r0, r1, _MM_SHUFFLE(1, 1, 2, 2)), r2, _MM_SHUFFLE(3, 0, 2, 0));
+}
+inline void pack3(float* p, const __m128 (&o)[3]) {
+  const auto even = [](__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)); };
+  _mm_storeu_ps(p, even(_mm_shuffle_ps(o[0], o[1], _MM_SHUFFLE(0, 0, 0, 0)),
+                        _mm_shuffle_ps(o[2], o[0], _MM_SHUFFLE(1, 1, 0, 0))));
+  _mm_storeu_ps(p + 4, even(_mm_shuffle_ps(o[1], o[2], _MM_SHUFFLE(1, 1, 1, 1)),
+                            _mm_shuffle_ps(o[0], o[1], _MM_SHUFFLE(2, 2, 2, 2))));
+  _mm_storeu_ps(p + 8, even(_mm_shuffle_ps(o[2], o[0], _MM_SHUFFLE(3, 3, 2, 2)),
+                            _mm_shuffle_ps(o[1], o[2], _MM_SHUFFLE(3, 3, 3, 3))));
+}
+
+template <class V>
+constexpr bool isPackedFloatArray = std::is_same_v<V, StridedArray<const float, true>> ||
+                                    std::is_same_v<V, StridedArray<float, true>>;
+
+// One Qel32f 3 by 3 matrix against packed 3-element vectors (12 bytes apart):
+// four objects a step, object k of the step in lane k, each result the same
+// ((t0 + t1) + t2) (+ z) as one object alone. Answers how many objects it did.
+template <class A, class X, class Z, class D>
+int packedQuads3(const A& a, const X& x, const Z& z, const D& d, int count) {
+  if constexpr (std::is_same_v<ElemOf<D>, float> && !A::isArray && isPackedFloatArray<X> &&
+                isPackedFloatArray<D> && (!Z::isArray || isPackedFloatArray<Z>)) {
+    constexpr bool addZ = !std::is_same_v<Z, NoAddend>;
+    if (x.s0 != 12 || d.s0 != 12) return 0;
+    if constexpr (Z::isArray) {
+      if (z.s0 != 12) return 0;
+    }
+    const auto m = a.object(0);
+    __m128 c[3][3], zs[3] = {};
+    unroll<3>([&](auto i) { unroll<3>([&](auto k) { c[i][k] = _mm_set1_ps(m.at(i, k)); }); });
+    if constexpr (addZ && !Z::isArray) unroll<3>([&](auto i) { zs[i] = _mm_set1_ps(z.object(0).at(0, i)); });
+    const int quads = count & ~3;
+    for (int n = 0; n < quads; n += 4) {
+      __m128 v[3], y[3];
+      unpack3(x.object(n).row(0), v);
+      if constexpr (Z::isArray) unpack3(z.object(n).row(0), zs);
+      unroll<3>([&](auto i) {
+        y[i] = _mm_add_ps(_mm_add_ps(_mm_mul_ps(v[0], c[i][0]), _mm_mul_ps(v[1], c[i][1])),
+                          _mm_mul_ps(v[2], c[i][2]));
+        if constexpr (addZ) y[i] = _mm_add_ps(y[i], zs[i]);
+      });
+      pack3(d.object(n).row(0), y);
+    }
+    return quads;
+  } else {
+    return 0;
+  }
+}
+
 // Each object in order; a single operand (matrix, vector or z) is read once,
 // ahead of the loop.
 template <int N, Sums Tree, class A, class X, class Z, class D>
@@ -208,8 +264,10 @@ template <int N, Sums Tree, class A, class X, class Z, class D>
     squareObject<T, N, Tree>(cols, xs, z.object(n), heldZ, d.object(n));
   };
   if constexpr (!A::isArray) {
+    int n = 0;
+    if constexpr (N == 3) n = packedQuads3(a, x, z, d, count);
     const Columns<T, N> cols = loadColumns<T, N>(a.object(0));
-    for (int n = 0; n < count; ++n) one(cols, n);
+    for (; n < count; ++n) one(cols, n);
   } else {
     for (int n = 0; n < count; ++n) one(loadColumns<T, N>(a.object(n)), n);
   }
