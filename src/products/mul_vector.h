@@ -229,13 +229,16 @@ int packedQuads3(const A& a, const X& x, const Z& z, const D& d, int count) {
     if constexpr (addZ && !Z::isArray) unroll<3>([&](auto i) { zs[i] = _mm_set1_ps(z.object(0).at(0, i)); });
     const int quads = count & ~3;
     for (int n = 0; n < quads; n += 4) {
+      // An array z is read into the registers that then take the results.
       __m128 v[3], y[3];
       unpack3(x.object(n).row(0), v);
-      if constexpr (Z::isArray) unpack3(z.object(n).row(0), zs);
+      if constexpr (Z::isArray) unpack3(z.object(n).row(0), y);
       unroll<3>([&](auto i) {
-        y[i] = _mm_add_ps(_mm_add_ps(_mm_mul_ps(v[0], c[i][0]), _mm_mul_ps(v[1], c[i][1])),
-                          _mm_mul_ps(v[2], c[i][2]));
-        if constexpr (addZ) y[i] = _mm_add_ps(y[i], zs[i]);
+        const __m128 s = _mm_add_ps(_mm_add_ps(_mm_mul_ps(v[0], c[i][0]), _mm_mul_ps(v[1], c[i][1])),
+                                    _mm_mul_ps(v[2], c[i][2]));
+        if constexpr (Z::isArray) y[i] = _mm_add_ps(s, y[i]);
+        else if constexpr (addZ) y[i] = _mm_add_ps(s, zs[i]);
+        else y[i] = s;
       });
       pack3(d.object(n).row(0), y);
     }
