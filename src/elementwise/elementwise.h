@@ -88,12 +88,19 @@ inline auto rowAt(const M& m, int i) {
 
 template <class O>
 constexpr bool isTransposedObject = requires(O o) { o.v; };
+// A constant in every lane: it occupies no memory of the call, so it takes no
+// part in the alignment tests either.
+template <class O>
+constexpr bool isConstantObject = requires(O o) { o.val; };
 
 template <class T, int R, int N, int Pitch, bool Aligned, class O>
 inline Block<T, R, N> loadBlock(const O& o) {
   using S = Lanes<T>;
   Block<T, R, N> blk;
-  if constexpr (isTransposedObject<O>) {
+  if constexpr (isConstantObject<O>) {
+    for (int i = 0; i < R; ++i)
+      for (int u = 0; u < Block<T, R, N>::units; ++u) blk.v[i][u] = S::splat(o.val);
+  } else if constexpr (isTransposedObject<O>) {
     // Row i of the result is column i of the stored matrix.
     if constexpr (std::is_same_v<T, float> && N == 4) {
       __m128 r0 = _mm_loadu_ps(rowAt<Pitch>(o.v, 0)), r1 = _mm_loadu_ps(rowAt<Pitch>(o.v, 1));
@@ -185,17 +192,30 @@ struct Alignment {
   int32_t rowOr = 0;
 };
 
+template <class O>
+inline bool baseOn16(const O& o) {
+  if constexpr (isConstantObject<O>) return true;
+  else return multipleOf16(storedOf(o).base);
+}
+template <class O>
+inline bool rowsOn16(const O& o) {
+  if constexpr (isConstantObject<O>) return true;
+  else return multipleOf16(storedOf(o).s1);
+}
+
 template <class V>
 inline void noteAlignment(Alignment& al, const V& v, bool first) {
-  const auto obj = v.object(0);
-  const auto& o = storedOf(obj);
-  al.pointers = al.pointers && multipleOf16(o.base);
-  al.rows = al.rows && multipleOf16(o.s1);
-  al.rowOr |= o.s1;
-  if constexpr (requires { v.a.s0; }) {
-    (first ? al.firstStride0 : al.otherStride0) = multipleOf16(v.a.s0);
-  } else if constexpr (requires { v.s0; }) {
-    (first ? al.firstStride0 : al.otherStride0) = multipleOf16(v.s0);
+  if constexpr (!isConstantObject<typename V::Object>) {
+    const auto obj = v.object(0);
+    const auto& o = storedOf(obj);
+    al.pointers = al.pointers && multipleOf16(o.base);
+    al.rows = al.rows && multipleOf16(o.s1);
+    al.rowOr |= o.s1;
+    if constexpr (requires { v.a.s0; }) {
+      (first ? al.firstStride0 : al.otherStride0) = multipleOf16(v.a.s0);
+    } else if constexpr (requires { v.s0; }) {
+      (first ? al.firstStride0 : al.otherStride0) = multipleOf16(v.s0);
+    }
   }
 }
 
@@ -207,13 +227,12 @@ void listedObjectsSse(A a, B b, D d, int count) {
   const auto* heldA = holdSse<T, R, N, 0, false>(a, ha);
   const auto* heldB = holdSse<T, R, N, 0, false>(b, hb);
   const auto o = d.object(0);
-  const bool rowsAligned = multipleOf16(storedOf(a.object(0)).s1) &&
-                           multipleOf16(storedOf(b.object(0)).s1) && multipleOf16(o.s1);
+  const bool rowsAligned = rowsOn16(a.object(0)) && rowsOn16(b.object(0)) && multipleOf16(o.s1);
   for (int n = 0; n < count; ++n) {
     const auto ao = a.object(n);
     const auto bo = b.object(n);
     const auto dobj = d.object(n);
-    if (rowsAligned && multipleOf16(storedOf(ao).base) && multipleOf16(storedOf(bo).base) &&
+    if (rowsAligned && baseOn16(ao) && baseOn16(bo) &&
         multipleOf16(dobj.base))
       oneObjectSse<Op, R, N, 0, true, true>(ao, bo, dobj, heldA, heldB);
     else
@@ -390,7 +409,8 @@ QelStatus elementwise(A a, B b, D d, int width, int height, int count) {
     auto unrolled = [&](auto size) {
       constexpr int N = decltype(size)::value;
       constexpr int R = Rows == 1 ? 1 : N;
-      if constexpr (isContiguousRows<A> && isContiguousRows<B> && isContiguousRows<D>)
+      if constexpr (isContiguousRows<A> && (isContiguousRows<B> || isConstantObject<typename B::Object>) &&
+                    isContiguousRows<D>)
         unrolledSse<Op, R, N>(a, b, d, count);
       else
         unrolledGeneric<Op, R, N>(a, b, d, count);
