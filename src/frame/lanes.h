@@ -5,6 +5,8 @@
 // or written.
 #pragma once
 
+#include "views.h"
+
 #include <smmintrin.h>
 
 #include <cstring>
@@ -71,6 +73,21 @@ struct Lanes<float> {
     }
   }
   static V gather(float a, float b, float c, float d) { return _mm_setr_ps(a, b, c, d); }
+  static V sub(V a, V b) { return _mm_sub_ps(a, b); }
+  static V div(V a, V b) { return _mm_div_ps(a, b); }
+  static V abs(V a) { return _mm_andnot_ps(_mm_set1_ps(-0.0f), a); }
+  static V greater(V a, V b) { return _mm_cmpgt_ps(a, b); }
+  static V select(V mask, V a, V b) { return _mm_blendv_ps(b, a, mask); }  // mask ? a : b
+  template <int Imm>
+  static V blend(V a, V b) { return _mm_blend_ps(a, b, Imm); }  // lane l from b where bit l
+  static float lane0(V v) { return _mm_cvtss_f32(v); }
+  // A small integer spread over the register, and the lanes where it equals i:
+  // row numbers ride along value comparisons without leaving the vector unit.
+  static V splatInt(int i) { return _mm_castsi128_ps(_mm_set1_epi32(i)); }
+  static V equalInt(V a, int i) { return _mm_castsi128_ps(_mm_cmpeq_epi32(_mm_castps_si128(a), _mm_set1_epi32(i))); }
+  static int firstInt(V a) { return _mm_cvtsi128_si32(_mm_castps_si128(a)); }
+  static V either(V a, V b) { return _mm_or_ps(a, b); }
+  static bool anyLane(V a) { return _mm_movemask_ps(a) != 0; }
 };
 
 template <>
@@ -97,6 +114,118 @@ struct Lanes<double> {
     else _mm_store_sd(p, v);
   }
   static V gather(double a, double b) { return _mm_setr_pd(a, b); }
+  static V sub(V a, V b) { return _mm_sub_pd(a, b); }
+  static V div(V a, V b) { return _mm_div_pd(a, b); }
+  static V abs(V a) { return _mm_andnot_pd(_mm_set1_pd(-0.0), a); }
+  static V greater(V a, V b) { return _mm_cmpgt_pd(a, b); }
+  static V select(V mask, V a, V b) { return _mm_blendv_pd(b, a, mask); }
+  template <int Imm>
+  static V blend(V a, V b) { return _mm_blend_pd(a, b, Imm); }
+  static double lane0(V v) { return _mm_cvtsd_f64(v); }
+  static V splatInt(int i) { return _mm_castsi128_pd(_mm_set1_epi32(i)); }
+  static V equalInt(V a, int i) { return _mm_castsi128_pd(_mm_cmpeq_epi32(_mm_castpd_si128(a), _mm_set1_epi32(i))); }
+  static int firstInt(V a) { return _mm_cvtsi128_si32(_mm_castpd_si128(a)); }
+  static V either(V a, V b) { return _mm_or_pd(a, b); }
+  static bool anyLane(V a) { return _mm_movemask_pd(a) != 0; }
 };
+
+// ---------------------------------------------------------------- rows of a view
+
+template <class O>
+struct IsTrans : std::false_type {};
+template <class V>
+struct IsTrans<Trans<V>> : std::true_type {};
+
+// op(i, k) lies along a contiguous stored row as k grows: an untransposed
+// contiguous matrix. op(k, j) lies along a stored row as k grows when the matrix
+// is read transposed.
+template <class O>
+constexpr bool rowsContiguous = O::contiguous && !IsTrans<O>::value;
+template <class O>
+constexpr bool columnsContiguous = O::contiguous && IsTrans<O>::value;
+
+// A row of N elements as R registers; lanes past column N - 1 are zero on load
+// and never stored.
+template <class T, int N>
+struct RowRegs {
+  using S = Lanes<T>;
+  using V = typename S::V;
+  static constexpr int L = S::L;
+  static constexpr int R = (N + L - 1) / L;
+  template <int r>
+  static constexpr int width = (N - r * L) < L ? N - r * L : L;
+};
+
+template <class T, int N, class O>
+inline void loadRow(const O& o, int i, typename Lanes<T>::V (&out)[RowRegs<T, N>::R]) {
+  using B = RowRegs<T, N>;
+  using S = Lanes<T>;
+  if constexpr (rowsContiguous<O>) {
+    const T* p = o.row(i);
+    unroll<B::R>([&](auto r) { out[r] = S::template load<B::template width<r>>(p + r * S::L); });
+  } else {
+    alignas(16) T buf[B::R * S::L] = {};
+    unroll<N>([&](auto j) { buf[j] = o.at(i, j); });
+    unroll<B::R>([&](auto r) { out[r] = S::loadAligned(&buf[r * S::L]); });
+  }
+}
+
+template <class T, int N, class O>
+inline void storeRow(const O& o, int i, const typename Lanes<T>::V (&c)[RowRegs<T, N>::R]) {
+  using B = RowRegs<T, N>;
+  using S = Lanes<T>;
+  if constexpr (rowsContiguous<O>) {
+    T* p = o.row(i);
+    unroll<B::R>([&](auto r) { S::template store<B::template width<r>>(p + r * S::L, c[r]); });
+  } else {
+    alignas(16) T buf[B::R * S::L];
+    unroll<B::R>([&](auto r) { S::storeAligned(&buf[r * S::L], c[r]); });
+    unroll<N>([&](auto j) { o.at(i, j) = buf[j]; });
+  }
+}
+
+// ---------------------------------------------------------------- objects in lanes
+
+// L objects side by side, one per lane: element j of a row of object g becomes
+// lane g of register j. Kernels whose objects run the same steps with no
+// choice between them (solves, products) do L objects for the work of one.
+template <class T, int N>
+inline void rowsToLanes(const typename Lanes<T>::V (&rows)[Lanes<T>::L][RowRegs<T, N>::R],
+                        typename Lanes<T>::V (&cols)[N]) {
+  using B = RowRegs<T, N>;
+  unroll<B::R>([&](auto q) {
+    constexpr int w = B::template width<q>;
+    if constexpr (B::L == 4) {
+      __m128 r0 = rows[0][q], r1 = rows[1][q], r2 = rows[2][q], r3 = rows[3][q];
+      _MM_TRANSPOSE4_PS(r0, r1, r2, r3);
+      const __m128 t[4] = {r0, r1, r2, r3};
+      unroll<w>([&](auto j) { cols[q * 4 + j] = t[j]; });
+    } else {
+      cols[q * 2] = _mm_unpacklo_pd(rows[0][q], rows[1][q]);
+      if constexpr (w == 2) cols[q * 2 + 1] = _mm_unpackhi_pd(rows[0][q], rows[1][q]);
+    }
+  });
+}
+
+// The way back: lane g of register j becomes element j of row g.
+template <class T, int N>
+inline void lanesToRows(const typename Lanes<T>::V (&cols)[N],
+                        typename Lanes<T>::V (&rows)[Lanes<T>::L][RowRegs<T, N>::R]) {
+  using B = RowRegs<T, N>;
+  using S = Lanes<T>;
+  unroll<B::R>([&](auto q) {
+    constexpr int w = B::template width<q>;
+    if constexpr (B::L == 4) {
+      __m128 t[4];
+      unroll<4>([&](auto j) { t[j] = j < w ? cols[q * 4 + (j < w ? int(j) : 0)] : S::zero(); });
+      _MM_TRANSPOSE4_PS(t[0], t[1], t[2], t[3]);
+      unroll<4>([&](auto g) { rows[g][q] = t[g]; });
+    } else {
+      const __m128d hi = w == 2 ? cols[q * 2 + (w == 2 ? 1 : 0)] : S::zero();
+      rows[0][q] = _mm_unpacklo_pd(cols[q * 2], hi);
+      rows[1][q] = _mm_unpackhi_pd(cols[q * 2], hi);
+    }
+  });
+}
 
 }  // namespace qel

@@ -261,6 +261,33 @@ struct ConstList {
   bool pointerOk() const { return list != nullptr; }
 };
 
+// Whether a kernel may read later objects of src before it writes earlier
+// objects of dst: the two standard arrays are one (the same base and strides,
+// an in-place call) or their byte ranges do not meet. Each is given with the
+// rows and columns of its objects. Other descriptions answer no.
+struct Extent {
+  int rows, cols;
+};
+template <class A, class B>
+inline bool independentObjects(const A&, Extent, const B&, Extent, int) {
+  return false;
+}
+template <class T1, bool C1, class T2, bool C2>
+inline bool independentObjects(const StridedArray<T1, C1>& a, Extent ea, const StridedArray<T2, C2>& b, Extent eb,
+                               int count) {
+  const auto pa = int64_t(reinterpret_cast<uintptr_t>(a.base));
+  const auto pb = int64_t(reinterpret_cast<uintptr_t>(b.base));
+  if (pa == pb && a.s0 == b.s0 && a.s1 == b.s1 && a.s2 == b.s2) return true;
+  auto span = [&](const auto& v, Extent e) {
+    return int64_t(count - 1) * v.s0 + int64_t(e.rows - 1) * v.s1 + int64_t(e.cols - 1) * v.s2 +
+           int64_t(sizeof(*v.base));
+  };
+  // Spans past 32 bits wrap their distances: treat them as meeting.
+  const int64_t sa = span(a, ea), sb = span(b, eb);
+  if (sa > INT32_MAX || sb > INT32_MAX) return false;
+  return pa + sa <= pb || pb + sb <= pa;
+}
+
 // Description-wide questions over several operands.
 template <class... V>
 inline bool allUnitStride(const V&... v) {

@@ -76,19 +76,6 @@ inline int smallSizeByOr(const Dims& d) {
 
 // ---------------------------------------------------------------- access traits
 
-template <class O>
-struct IsTrans : std::false_type {};
-template <class V>
-struct IsTrans<Trans<V>> : std::true_type {};
-
-// op(i, k) lies along a contiguous stored row as k grows: an untransposed
-// contiguous matrix. op2(k, j) lies along a stored row as k grows when the
-// matrix is read transposed.
-template <class O>
-constexpr bool rowsContiguous = O::contiguous && !IsTrans<O>::value;
-template <class O>
-constexpr bool columnsContiguous = O::contiguous && IsTrans<O>::value;
-
 template <class V>
 using ElemOf = typename V::Object::Elem;
 

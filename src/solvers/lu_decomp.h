@@ -12,6 +12,7 @@
 //               is a product with the reciprocal of the pivot.
 #pragma once
 
+#include "../frame/lanes.h"
 #include "../frame/views.h"
 #include "qelm/qelmtypes.h"
 
@@ -74,79 +75,155 @@ QelStatus luGeneral(S src, Qel32s* index, D dst, int n) {
   return qelStatusOk;
 }
 
-// Fixed form, orders 3..6. The copy lives on the stack and its rows stay where
-// src had them; row[k] points at the row that index[k] names, so each swap moves
-// two integers and two pointers. src is read once, before anything is written,
-// so dst may be src itself.
+// Fixed form, orders 3..6. The private copy lives in registers, a row in one to
+// three of them, and rows are exchanged there as the pivots are chosen, so that
+// register row k is always the row that index[k] names; the exchange is a pair
+// of masked blends per row, not a branch. The pivot search runs in the vector
+// unit too: magnitudes compared lane against lane, the winning row number
+// carried along in the same lanes.
+//
+// G objects go through the steps side by side, so that one object's divisions
+// and searches wait while the other's run. With G = 1 each pivot row is stored
+// as soon as it passes its test and the first failure ends the object, which
+// leaves the failure state callers see. With G > 1 nothing is stored: the
+// result says whether any of the G objects met a pivot below the tolerance,
+// and the caller stores them all or runs them again one at a time.
+template <class T, int N, int G>
+struct LuRegs {
+  using L = Lanes<T>;
+  using V = typename L::V;
+  static constexpr int R = RowRegs<T, N>::R;
+  V a[G][N][R];
+  int idx[G][N];
+};
+
+// Flattened: the step lambdas are large, and a step left out of line keeps the
+// rows in memory instead of registers.
+template <class T, int N, int G, class Store>
+[[gnu::flatten]] inline QelStatus luSteps(LuRegs<T, N, G>& m, Store storeRow) {
+  using L = Lanes<T>;
+  using V = typename L::V;
+  constexpr int R = RowRegs<T, N>::R;
+  constexpr int W = RowRegs<T, N>::L;
+  constexpr T tol = LuTolerance<T>::fixed;
+  auto& a = m.a;
+  // Column k of row i of object g, spread over all lanes.
+  auto column = [&](int g, auto i, auto k) { return L::template splatLane<k % W>(a[g][i][k / W]); };
+  V small = L::zero();
+
+  QelStatus status = qelStatusOk;
+  unroll<N - 1>([&](auto k) {
+    if (status) return;
+    V pivot[G];
+    for (int g = 0; g < G; ++g) {
+      // The first largest magnitude in index order; a NaN never wins nor loses.
+      V best = L::abs(column(g, k, k));
+      V at = L::splatInt(k);
+      unroll<N - 1 - k>([&](auto m1) {
+        constexpr int i = k + 1 + m1;
+        const V c = L::abs(column(g, std::integral_constant<int, i>{}, k));
+        const V gt = L::greater(c, best);
+        best = L::select(gt, c, best);
+        at = L::select(gt, L::splatInt(i), at);
+      });
+      unroll<N - 1 - k>([&](auto m1) {
+        constexpr int i = k + 1 + m1;
+        const V take = L::equalInt(at, i);
+        unroll<R>([&](auto r) {
+          const V pk = a[g][k][r];
+          a[g][k][r] = L::select(take, a[g][i][r], pk);
+          a[g][i][r] = L::select(take, pk, a[g][i][r]);
+        });
+      });
+      const int p = L::firstInt(at);
+      const int t = m.idx[g][p];
+      m.idx[g][p] = m.idx[g][k];
+      m.idx[g][k] = t;
+      pivot[g] = column(g, k, k);
+      if constexpr (G == 1) {
+        if (std::fabs(L::lane0(pivot[g])) < tol) {
+          status = qelStatusSingular;
+          return;
+        }
+        storeRow(g, k);
+      } else {
+        small = L::either(small, L::greater(L::splat(tol), L::abs(pivot[g])));
+      }
+    }
+    for (int g = 0; g < G; ++g) {
+      // Multipliers by the reciprocal, but the last step's one multiplier is a
+      // true quotient.
+      V r;
+      if constexpr (k < N - 2) r = L::div(L::splat(T(1)), pivot[g]);
+      unroll<N - 1 - k>([&](auto m1) {
+        constexpr int i = k + 1 + m1;
+        V l;
+        if constexpr (k < N - 2) l = L::mul(column(g, std::integral_constant<int, i>{}, k), r);
+        else l = L::div(column(g, std::integral_constant<int, i>{}, k), pivot[g]);
+        unroll<R - k / W>([&](auto q) {
+          constexpr int rr = k / W + q;
+          V nv = L::sub(a[g][i][rr], L::mul(a[g][k][rr], l));
+          if constexpr (rr == k / W) {
+            // Columns before k keep their multipliers; column k takes this one.
+            nv = L::template blend<(1 << (k % W)) - 1>(nv, a[g][i][rr]);
+            nv = L::template blend<1 << (k % W)>(nv, l);
+          }
+          a[g][i][rr] = nv;
+        });
+      });
+    }
+  });
+  if (status) return status;
+  for (int g = 0; g < G; ++g) {
+    const V last = column(g, std::integral_constant<int, N - 1>{}, std::integral_constant<int, N - 1>{});
+    if constexpr (G == 1) {
+      if (std::fabs(L::lane0(last)) < tol) return qelStatusSingular;
+      storeRow(g, N - 1);
+    } else {
+      small = L::either(small, L::greater(L::splat(tol), L::abs(last)));
+    }
+  }
+  if constexpr (G > 1)
+    if (L::anyLane(small)) return qelStatusSingular;
+  return qelStatusOk;
+}
+
+template <int N, int G, class S, class T>
+inline void luLoad(LuRegs<T, N, G>& m, int g, const S& src) {
+  unroll<N>([&](auto i) { loadRow<T, N>(src, i, m.a[g][i]); });
+  for (int i = 0; i < N; ++i) m.idx[g][i] = i;
+}
+
+// One object: src is read whole before anything is written, so dst may be src.
 template <int N, class S, class D>
 QelStatus luFixed(S src, Qel32s* index, D dst) {
   using T = std::remove_reference_t<decltype(dst.at(0, 0))>;
-  constexpr T tol = LuTolerance<T>::fixed;
+  LuRegs<T, N, 1> m;
+  luLoad<N>(m, 0, src);
+  const QelStatus st = luSteps(m, [&](int, int k) { storeRow<T, N>(dst, m.idx[0][k], m.a[0][k]); });
+  for (int i = 0; i < N; ++i) index[i] = m.idx[0][i];
+  return st;
+}
 
-  T a[N][N];
-  for (int i = 0; i < N; ++i)
-    for (int j = 0; j < N; ++j) a[i][j] = src.at(i, j);
-  int idx[N];
-  T* row[N];
-  for (int i = 0; i < N; ++i) {
-    idx[i] = i;
-    row[i] = a[i];
+// Two objects side by side; either singular and both run again alone, in
+// order, which stops at the first failure as a loop of luFixed would.
+template <int N, class S, class I, class D>
+QelStatus luFixedPair(S src, I index, D dst, int n) {
+  using T = std::remove_reference_t<decltype(dst.object(0).at(0, 0))>;
+  LuRegs<T, N, 2> m;
+  luLoad<N>(m, 0, src.object(n));
+  luLoad<N>(m, 1, src.object(n + 1));
+  if (luSteps(m, [](int, int) {}) == qelStatusOk) {
+    for (int g = 0; g < 2; ++g) {
+      const auto d = dst.object(n + g);
+      unroll<N>([&](auto k) { storeRow<T, N>(d, m.idx[g][k], m.a[g][k]); });
+      Qel32s* ix = index.object(n + g);
+      for (int i = 0; i < N; ++i) ix[i] = m.idx[g][i];
+    }
+    return qelStatusOk;
   }
-  auto publishIndex = [&] {
-    for (int i = 0; i < N; ++i) index[i] = idx[i];
-  };
-  auto writeRow = [&](int k) {
-    for (int j = 0; j < N; ++j) dst.at(idx[k], j) = row[k][j];
-  };
-
-  // The search of step 0 is the one loop; later searches ride on the updates.
-  T best = row[0][0];
-  int bestAt = 0;
-  for (int i = 1; i < N; ++i)
-    if (std::fabs(row[i][0]) > std::fabs(best)) {
-      best = row[i][0];
-      bestAt = i;
-    }
-
-  for (int k = 0; k < N - 1; ++k) {
-    if (bestAt != k) {
-      std::swap(idx[k], idx[bestAt]);
-      std::swap(row[k], row[bestAt]);
-    }
-    const T* pr = row[k];
-    if (std::fabs(pr[k]) < tol) {
-      publishIndex();
-      return qelStatusSingular;
-    }
-    writeRow(k);
-
-    if (k < N - 2) {
-      const T r = T(1) / pr[k];
-      for (int i = k + 1; i < N; ++i) {
-        T* ri = row[i];
-        const T l = ri[k] * r;
-        ri[k] = l;
-        for (int j = k + 1; j < N; ++j) ri[j] = ri[j] - pr[j] * l;
-        // Column k+1 of this row is final: it takes part in the next search.
-        if (i == k + 1 || std::fabs(ri[k + 1]) > std::fabs(best)) {
-          best = ri[k + 1];
-          bestAt = i;
-        }
-      }
-    } else {
-      // The last step has one multiplier; it is a true quotient.
-      T* ri = row[N - 1];
-      const T l = ri[k] / pr[k];
-      ri[k] = l;
-      ri[N - 1] = ri[N - 1] - pr[N - 1] * l;
-    }
-  }
-  if (std::fabs(row[N - 1][N - 1]) < tol) {
-    publishIndex();
-    return qelStatusSingular;
-  }
-  writeRow(N - 1);
-  publishIndex();
+  for (int g = 0; g < 2; ++g)
+    if (QelStatus st = luFixed<N>(src.object(n + g), index.object(n + g), dst.object(n + g))) return st;
   return qelStatusOk;
 }
 
@@ -159,9 +236,21 @@ QelStatus luObjects(S src, I index, D dst, int size, int count) {
       if (QelStatus st = factor(src.object(n), index.object(n), dst.object(n))) return st;
     return qelStatusOk;
   };
+  // Objects two at a time where no object's result can reach the next one's
+  // source: distinct arrays, or one array factored in place.
+  auto pairs = [&](auto order) -> QelStatus {
+    constexpr int N = decltype(order)::value;
+    int n = 0;
+    if (independentObjects(src, {N, N}, dst, {N, N}, count))
+      for (; n + 1 < count; n += 2)
+        if (QelStatus st = luFixedPair<N>(src, index, dst, n)) return st;
+    for (; n < count; ++n)
+      if (QelStatus st = luFixed<N>(src.object(n), index.object(n), dst.object(n))) return st;
+    return qelStatusOk;
+  };
   switch (size) {
-    case 3: return each([](auto s, Qel32s* ix, auto d) { return luFixed<3>(s, ix, d); });
-    case 4: return each([](auto s, Qel32s* ix, auto d) { return luFixed<4>(s, ix, d); });
+    case 3: return pairs(std::integral_constant<int, 3>{});
+    case 4: return pairs(std::integral_constant<int, 4>{});
     case 5: return each([](auto s, Qel32s* ix, auto d) { return luFixed<5>(s, ix, d); });
     case 6: return each([](auto s, Qel32s* ix, auto d) { return luFixed<6>(s, ix, d); });
     default: return each([size](auto s, Qel32s* ix, auto d) { return luGeneral(s, ix, d, size); });

@@ -15,6 +15,7 @@
 //                 each right-hand side is a short product.
 #pragma once
 
+#include "../frame/lanes.h"
 #include "../frame/sums.h"
 #include "../frame/views.h"
 #include "qelm/qelmtypes.h"
@@ -95,6 +96,58 @@ void solveSubst(M a, const Qel32s* p, B b, X x) {
   forwardSubst<N>(y, c);
   backwardSubst<N>(y, c, [&](int k, T t) { return t / c(k, k); });
   for (int k = 0; k < N; ++k) x.at(0, k) = y[k];
+}
+
+// mava at orders 3..6 on contiguous rows: one object per lane, the same
+// subtractions and divisions as solveSubst in every lane, and Q registers of
+// objects interleaved so that one's chain of divisions runs while the other's
+// waits. The right-hand sides of all of them are read before any result is
+// stored; the caller makes sure no result can reach another object's operands.
+template <int N, int Q, class A, class I, class B, class X>
+[[gnu::flatten]] void solveSubstLanes(A a, I index, B b, X x, int n) {
+  using T = ElemOf<typename X::Object>;
+  using S = Lanes<T>;
+  using V = typename S::V;
+  constexpr int G = S::L;
+  constexpr int R = RowRegs<T, N>::R;
+  V y[Q][N];
+  V c[Q][N][N];
+  unroll<Q>([&](auto q) {
+    const int n0 = n + q * G;
+    const Qel32s* p[G];
+    unroll<G>([&](auto g) { p[g] = index.object(n0 + g); });
+    unroll<N>([&](auto k) {
+      if constexpr (G == 4)
+        y[q][k] = S::gather(b.object(n0).at(0, p[0][k]), b.object(n0 + 1).at(0, p[1][k]),
+                            b.object(n0 + 2).at(0, p[2][k]), b.object(n0 + 3).at(0, p[3][k]));
+      else
+        y[q][k] = S::gather(b.object(n0).at(0, p[0][k]), b.object(n0 + 1).at(0, p[1][k]));
+    });
+    unroll<N>([&](auto k) {
+      V rows[G][R];
+      unroll<G>([&](auto g) { loadRow<T, N>(a.object(n0 + g), p[g][k], rows[g]); });
+      rowsToLanes<T, N>(rows, c[q][k]);
+    });
+  });
+  // forwardSubst and backwardSubst, step by step across the Q groups.
+  for (int k = 1; k < N; ++k)
+    unroll<Q>([&](auto q) {
+      V t = y[q][k];
+      for (int j = 1; j < k; ++j) t = S::sub(t, S::mul(c[q][k][j], y[q][j]));
+      y[q][k] = S::sub(t, S::mul(c[q][k][0], y[q][0]));
+    });
+  unroll<Q>([&](auto q) { y[q][N - 1] = S::div(y[q][N - 1], c[q][N - 1][N - 1]); });
+  for (int k = N - 2; k >= 0; --k)
+    unroll<Q>([&](auto q) {
+      V t = y[q][k];
+      for (int j = N - 1; j > k; --j) t = S::sub(t, S::mul(c[q][k][j], y[q][j]));
+      y[q][k] = S::div(t, c[q][k][k]);
+    });
+  unroll<Q>([&](auto q) {
+    V rows[G][R];
+    lanesToRows<T, N>(y[q], rows);
+    unroll<G>([&](auto g) { storeRow<T, N>(x.object(n + q * G + g), 0, rows[g]); });
+  });
 }
 
 // ------------------------------------------------------------- hoisted factors
@@ -225,6 +278,8 @@ template <class V>
 constexpr bool isContiguousF32 = std::is_same_v<typename V::Object, Mat<float, true>>;
 template <class V>
 constexpr bool hasContiguousRows = V::Object::contiguous;
+template <class... V>
+constexpr bool allRowsContiguous = (rowsContiguous<typename V::Object> && ...);
 
 // The serial kernel of every shape: `count` right-hand sides (mva, mava) or
 // one (mv). Folded marks the one export whose contiguous kernel has the
@@ -258,7 +313,13 @@ QelStatus solveObjects(A a, I index, B b, X x, int size, int count) {
         size,
         [&](auto n) {
           constexpr int N = decltype(n)::value;
-          for (int o = 0; o < count; ++o)
+          int o = 0;
+          if constexpr (Shape == SolveShape::Mava && allRowsContiguous<A, B, X>) {
+            constexpr int G = 4 * Lanes<T>::L;
+            if (independentObjects(b, {1, N}, x, {1, N}, count) && independentObjects(a, {N, N}, x, {1, N}, count))
+              for (; o + G <= count; o += G) solveSubstLanes<N, 4>(a, index, b, x, o);
+          }
+          for (; o < count; ++o)
             solveSubst<N>(a.object(o), index.object(o), b.object(o), x.object(o));
         },
         [&] {
