@@ -111,6 +111,24 @@ void BM_eigenMap(benchmark::State& state) {
   report(state, count, bytesOf(S, sizeof(T)));
 }
 
+// Eigen with the whole array as one expression: the objects are rows of a
+// count by 16 matrix, the single operand one row added to each.
+template <class T, Shape S>
+void BM_eigenWhole(benchmark::State& state) {
+  const int count = int(state.range(0));
+  Arrays<T> m(size_t(count) * 16, S == Shape::mam ? 16 : size_t(count) * 16);
+  using Rows = Eigen::Matrix<T, Eigen::Dynamic, 16, Eigen::RowMajor>;
+  using Row = Eigen::Matrix<T, 1, 16>;
+  for (auto _ : state) {
+    Eigen::Map<const Rows> a(m.a.data(), count, 16);
+    Eigen::Map<Rows> d(m.d.data(), count, 16);
+    if constexpr (S == Shape::mam) d.noalias() = a.rowwise() + Eigen::Map<const Row>(m.b.data());
+    else d.noalias() = a + Eigen::Map<const Rows>(m.b.data(), count, 16);
+    benchmark::ClobberMemory();
+  }
+  report(state, count, bytesOf(S, sizeof(T)));
+}
+
 // The bandwidth ceiling: memcpy moving the same number of bytes (half read,
 // half written).
 template <class T, Shape S>
@@ -125,17 +143,24 @@ void BM_memcpy(benchmark::State& state) {
   report(state, count, bytesOf(S, sizeof(T)));
 }
 
-#define MATRIX_ROWS(T, S)                                                          \
-  BENCHMARK(BM_qelm<T, Shape::S>)->Arg(1000)->Arg(1000000);                        \
-  BENCHMARK(BM_plainLoop<T, Shape::S>)->Arg(1000)->Arg(1000000);                   \
-  BENCHMARK(BM_eigenMap<T, Shape::S>)->Arg(1000)->Arg(1000000);                    \
-  BENCHMARK(BM_memcpy<T, Shape::S>)->Arg(1000)->Arg(1000000);
+#define MATRIX_ROWS(T, S, label)                                                                     \
+  BENCHMARK(BM_qelm<T, Shape::S>)->Name(label "/" #T "/4/qelm")->Arg(1000)->Arg(1000000);           \
+  BENCHMARK(BM_plainLoop<T, Shape::S>)->Name(label "/" #T "/4/loop")->Arg(1000)->Arg(1000000);      \
+  BENCHMARK(BM_eigenMap<T, Shape::S>)->Name(label "/" #T "/4/eigen")->Arg(1000)->Arg(1000000);      \
+  MATRIX_WHOLE_##S(T, label)                                                                         \
+  BENCHMARK(BM_memcpy<T, Shape::S>)->Name(label "/" #T "/4/memcpy")->Arg(1000)->Arg(1000000);
+// A transposed operand has no one-expression form over the whole array.
+#define MATRIX_WHOLE_mam(T, label) \
+  BENCHMARK(BM_eigenWhole<T, Shape::mam>)->Name(label "/" #T "/4/eigen-whole")->Arg(1000)->Arg(1000000);
+#define MATRIX_WHOLE_mama(T, label) \
+  BENCHMARK(BM_eigenWhole<T, Shape::mama>)->Name(label "/" #T "/4/eigen-whole")->Arg(1000)->Arg(1000000);
+#define MATRIX_WHOLE_tama(T, label)
 
-MATRIX_ROWS(float, mam)
-MATRIX_ROWS(float, mama)
-MATRIX_ROWS(double, mama)
-MATRIX_ROWS(float, tama)
-MATRIX_ROWS(double, tama)
+MATRIX_ROWS(float, mam, "Add_mam")
+MATRIX_ROWS(float, mama, "Add_mama")
+MATRIX_ROWS(double, mama, "Add_mama")
+MATRIX_ROWS(float, tama, "Sub_tama")
+MATRIX_ROWS(double, tama, "Sub_tama")
 
 // ---------------------------------------------------------------- vectors
 
@@ -189,11 +214,11 @@ void BM_memcpyVava(benchmark::State& state) {
   report(state, count, 3 * Len * 4);
 }
 
-#define VECTOR_ROWS(L)                                           \
-  BENCHMARK(BM_qelmAddVava<L>)->Arg(1000)->Arg(1000000);         \
-  BENCHMARK(BM_plainAddVava<L>)->Arg(1000)->Arg(1000000);        \
-  BENCHMARK(BM_eigenAddVava<L>)->Arg(1000)->Arg(1000000);        \
-  BENCHMARK(BM_memcpyVava<L>)->Arg(1000)->Arg(1000000);
+#define VECTOR_ROWS(L)                                                                           \
+  BENCHMARK(BM_qelmAddVava<L>)->Name("Add_vava/float/" #L "/qelm")->Arg(1000)->Arg(1000000);       \
+  BENCHMARK(BM_plainAddVava<L>)->Name("Add_vava/float/" #L "/loop")->Arg(1000)->Arg(1000000);      \
+  BENCHMARK(BM_eigenAddVava<L>)->Name("Add_vava/float/" #L "/eigen")->Arg(1000)->Arg(1000000);     \
+  BENCHMARK(BM_memcpyVava<L>)->Name("Add_vava/float/" #L "/memcpy")->Arg(1000)->Arg(1000000);
 
 VECTOR_ROWS(3)
 VECTOR_ROWS(4)

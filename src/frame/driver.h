@@ -75,16 +75,15 @@ QelStatus parallelDriver(const Job& job, int count, DriverTraits traits = {},
   const bool canFork = omp_get_active_level() < omp_get_max_active_levels();
 
   QelStatus status = qelStatusOk;
-  int perThread = 0, extra = 0;
 #pragma omp parallel num_threads(request > 0 ? request : 1) if (canFork)
   {
-#pragma omp master
-    {
-      const int nThreads = omp_get_num_threads();
-      perThread = count / nThreads;
-      extra = count % nThreads;
-    }
-#pragma omp barrier
+    // Every member divides count by the same team size and finds the shares
+    // the master would hand out, so the team needs no barrier before its work:
+    // on a runtime whose threads sleep between regions a barrier is one more
+    // wake-up per call.
+    const int nThreads = omp_get_num_threads();
+    const int perThread = count / nThreads;
+    const int extra = count % nThreads;
     const int t = omp_get_thread_num();
     const Share s = shareOf(t, perThread, extra);
     QelStatus mine = qelStatusOk;
