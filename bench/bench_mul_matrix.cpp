@@ -129,6 +129,7 @@ void libxsmmLoop(benchmark::State& state) {
   else
     kernel = libxsmm_dmmdispatch(N, N, N, nullptr, nullptr, nullptr, &alpha, &beta, nullptr, nullptr);
   if (!kernel) return state.SkipWithError("no libxsmm kernel");
+  state.SetLabel(libxsmm_get_target_arch());
 #ifdef QELM_BENCH_HAVE_LAPACKE
   openblas_set_num_threads(1);
 #endif

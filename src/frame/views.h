@@ -262,12 +262,32 @@ struct ConstList {
 };
 
 // Whether a kernel may read later objects of src before it writes earlier
-// objects of dst: the two standard arrays are one (the same base and strides,
-// an in-place call) or their byte ranges do not meet. Each is given with the
-// rows and columns of its objects. Other descriptions answer no.
+// objects of dst. disjointObjects: the byte ranges of the two standard arrays
+// do not meet. independentObjects: that, or the two are one array (the same
+// base and strides, an in-place call whose kernel reads each object whole
+// before writing it). Each array is given with the rows and columns of its
+// objects; other descriptions answer no.
 struct Extent {
   int rows, cols;
 };
+template <class A, class B>
+inline bool disjointObjects(const A&, Extent, const B&, Extent, int) {
+  return false;
+}
+template <class T1, bool C1, class T2, bool C2>
+inline bool disjointObjects(const StridedArray<T1, C1>& a, Extent ea, const StridedArray<T2, C2>& b, Extent eb,
+                            int count) {
+  auto span = [&](const auto& v, Extent e) {
+    return int64_t(count - 1) * v.s0 + int64_t(e.rows - 1) * v.s1 + int64_t(e.cols - 1) * v.s2 +
+           int64_t(sizeof(*v.base));
+  };
+  const auto pa = int64_t(reinterpret_cast<uintptr_t>(a.base));
+  const auto pb = int64_t(reinterpret_cast<uintptr_t>(b.base));
+  // Spans past 32 bits wrap their distances: treat them as meeting.
+  const int64_t sa = span(a, ea), sb = span(b, eb);
+  if (sa > INT32_MAX || sb > INT32_MAX) return false;
+  return pa + sa <= pb || pb + sb <= pa;
+}
 template <class A, class B>
 inline bool independentObjects(const A&, Extent, const B&, Extent, int) {
   return false;
@@ -275,17 +295,10 @@ inline bool independentObjects(const A&, Extent, const B&, Extent, int) {
 template <class T1, bool C1, class T2, bool C2>
 inline bool independentObjects(const StridedArray<T1, C1>& a, Extent ea, const StridedArray<T2, C2>& b, Extent eb,
                                int count) {
-  const auto pa = int64_t(reinterpret_cast<uintptr_t>(a.base));
-  const auto pb = int64_t(reinterpret_cast<uintptr_t>(b.base));
-  if (pa == pb && a.s0 == b.s0 && a.s1 == b.s1 && a.s2 == b.s2) return true;
-  auto span = [&](const auto& v, Extent e) {
-    return int64_t(count - 1) * v.s0 + int64_t(e.rows - 1) * v.s1 + int64_t(e.cols - 1) * v.s2 +
-           int64_t(sizeof(*v.base));
-  };
-  // Spans past 32 bits wrap their distances: treat them as meeting.
-  const int64_t sa = span(a, ea), sb = span(b, eb);
-  if (sa > INT32_MAX || sb > INT32_MAX) return false;
-  return pa + sa <= pb || pb + sb <= pa;
+  if (reinterpret_cast<uintptr_t>(a.base) == reinterpret_cast<uintptr_t>(b.base) && a.s0 == b.s0 &&
+      a.s1 == b.s1 && a.s2 == b.s2)
+    return true;
+  return disjointObjects(a, ea, b, eb, count);
 }
 
 // Description-wide questions over several operands.

@@ -166,6 +166,19 @@ struct RowsInPlace {
     return Lanes<T>::template load<RowBlock<T, N>::template width<r>>(o.row(k) + r * Lanes<T>::L);
   }
 };
+// The same, with the row addresses formed once per object.
+template <class T, int N>
+struct RowPointers {
+  const T* p[N];
+  template <class O>
+  explicit RowPointers(const O& o) {
+    unroll<N>([&](auto k) { p[k] = o.row(k); });
+  }
+  template <int r>
+  typename Lanes<T>::V part(int k) const {
+    return Lanes<T>::template load<RowBlock<T, N>::template width<r>>(p[k] + r * Lanes<T>::L);
+  }
+};
 template <class T, int N>
 struct RowsHeld {
   const RowBlock<T, N>& b;
@@ -196,6 +209,38 @@ inline void productRows(const O1& a, const RowBlock<T, N>& b, const OD& d) {
   productRows<T, N>(a, RowsHeld<T, N>{b}, d);
 }
 
+// The same sums, G rows of the result at a time: every op2 register is loaded
+// once for G rows instead of once per row. Rows are stored after their group
+// is formed, so the caller uses this only where no result row can reach an
+// operand row still to be read.
+template <class T, int N, class O1, class Rows, class OD>
+inline void productRowGroups(const O1& a, const Rows& b, const OD& d) {
+  using S = Lanes<T>;
+  using B = RowBlock<T, N>;
+  constexpr int G = B::R == 1 ? 4 : 3;
+  unroll<(N + G - 1) / G>([&](auto grp) {
+    constexpr int i0 = grp * G;
+    constexpr int g = N - i0 < G ? N - i0 : G;
+    typename S::V c[g][B::R];
+    // Row addresses once: element offsets within a row then need no
+    // arithmetic of their own.
+    const T* ar[g];
+    unroll<g>([&](auto q) { ar[q] = a.row(i0 + q); });
+    unroll<N>([&](auto k) {
+      typename S::V ak[g];
+      unroll<g>([&](auto q) { ak[q] = S::splat(ar[q][k]); });
+      unroll<B::R>([&](auto r) {
+        const auto bk = b.template part<r>(k);
+        unroll<g>([&](auto q) {
+          if constexpr (k == 0) c[q][r] = S::mul(ak[q], bk);
+          else c[q][r] = S::add(c[q][r], S::mul(ak[q], bk));
+        });
+      });
+    });
+    unroll<g>([&](auto q) { writeRow<T, N>(d, i0 + q, c[q]); });
+  });
+}
+
 // Op2 of one object: sizes 3 and 4 (and every non-contiguous op2) are read
 // whole into registers before the first store; the larger contiguous rows
 // are read in place as the products need them.
@@ -220,6 +265,17 @@ template <int N, class A, class B, class D>
     const ScalarBlock<T, N> held = readScalars<T, N>(a.object(0));
     for (int n = 0; n < count; ++n) productObject<T, N>(held, b.object(n), d.object(n));
   } else {
+    // Large contiguous objects in separate arrays: rows in groups.
+    if constexpr (N >= 5 && rowsContiguous<typename A::Object> && rowsContiguous<typename B::Object> &&
+                  rowsContiguous<typename D::Object>) {
+      if (disjointObjects(a, {N, N}, d, {N, N}, count) && disjointObjects(b, {N, N}, d, {N, N}, count)) {
+        for (int n = 0; n < count; ++n) {
+          const RowPointers<T, N> bn{b.object(n)};
+          productRowGroups<T, N>(a.object(n), bn, d.object(n));
+        }
+        return;
+      }
+    }
     for (int n = 0; n < count; ++n) productObject<T, N>(a.object(n), b.object(n), d.object(n));
   }
 }
