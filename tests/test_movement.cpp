@@ -120,11 +120,15 @@ TEST(Movement, ObjectDistanceOfOneObject) {
 }
 
 // A copy runs forward: a destination one element past its source repeats the
-// first element all along.
+// first element all along, packed or not.
 TEST(Movement, OverlappingCopyRunsForward) {
-  float v[8] = {1, 2, 3, 4, 5, 6, 7, 8};
-  ASSERT_EQ(qelmCopy_va_32f_SS(v, 32, 4, v + 1, 32, 4, 7, 1), qelStatusOk);
-  for (float x : v) EXPECT_EQ(x, 1.0f);
+  for (int s0 : {28, 32}) {
+    float v[40];
+    std::iota(v, v + 40, 1.0f);
+    ASSERT_EQ(qelmCopy_va_32f_SS(v, s0, 4, v + 1, s0, 4, 7, 4), qelStatusOk);
+    for (int n = 0; n < 4; ++n)
+      for (int j = 0; j < 7; ++j) EXPECT_EQ(v[1 + n * s0 / 4 + j], s0 == 28 ? 1.0f : float(1 + n * s0 / 4)) << s0 << " " << n << " " << j;
+  }
 }
 
 // Qel32f transpositions ask for the cache only for an object whose smaller

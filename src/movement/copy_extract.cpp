@@ -15,7 +15,7 @@ template <class S, class D>
 QelStatus copyFront(const char* order, S src, D dst, int width, int height, int count) {
   if (QelStatus st = firstFailure(order, checkViewsObjectStrideIfMany(count, {width, height}, src, dst)))
     return st;
-  move::moveObjects(src, dst, width, height, count);
+  move::bySize(width, height, [&](auto w, auto h) { move::moveObjects(src, dst, w, h, count); });
   return qelStatusOk;
 }
 

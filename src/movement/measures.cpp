@@ -5,6 +5,7 @@
 #include "../frame/lanes.h"
 #include "../frame/operands.h"
 #include "../frame/sums.h"
+#include "movement.h"
 
 #include <cmath>
 
@@ -95,9 +96,10 @@ T addRun(T total, int len, F x) {
   return total;
 }
 
-// The sum of squares of one object on its kernel's path.
-template <class O>
-auto sumOfSquares(const O& o, int width, int height) {
+// The sum of squares of one object on its kernel's path. Square sizes of 3 to
+// 6 come as integral constants, so their row-order sums are straight lines.
+template <class O, class Width, class Height>
+auto sumOfSquares(const O& o, Width width, Height height) {
   using T = typename O::Elem;
   auto at = [&](int i, int j) { return T(o.at(i, j)); };
   // Small squares are unrolled in row order: (0,0), (0,1) and so on.
@@ -143,10 +145,9 @@ auto sumOfSquares(const O& o, int width, int height) {
 
 template <class A, class D>
 QelStatus frobKernel(A a, D d, int width, int height, int count) {
-  for (int n = 0; n < count; ++n) {
-    using T = ElemOf<D>;
-    d.object(n).at(0, 0) = T(std::sqrt(sumOfSquares(a.object(n), width, height)));
-  }
+  move::bySize(width, height, [&](auto w, auto h) {
+    for (int n = 0; n < count; ++n) d.object(n).at(0, 0) = ElemOf<D>(std::sqrt(sumOfSquares(a.object(n), w, h)));
+  });
   return qelStatusOk;
 }
 

@@ -15,10 +15,12 @@ namespace qel::move {
 template <class V>
 using ElemOf = typename V::Object::Elem;
 
-// One element as bits: no load into an arithmetic register, no conversion.
+// One element as bits. An SSE load and store of a float or double is a plain
+// move, never a conversion, so a signalling NaN keeps its payload; a typed
+// store also lets the compiler know it can't change a table of pointers.
 template <class T>
 inline void moveBits(T& dst, const T& src) {
-  std::memcpy(&dst, &src, sizeof(T));
+  dst = src;
 }
 
 // The order of the walk. Objects: objects outermost, then rows, then elements,
@@ -26,16 +28,68 @@ inline void moveBits(T& dst, const T& src) {
 // Elements: the element index outermost and the objects innermost.
 enum class Walk { Objects, Elements };
 
+// Elements that lie back to back, rows and objects included, form one run from
+// the first: a standard array packed without gaps, or one such object. Other
+// views have no run (nullptr_t).
+template <class V>
+inline auto runOf(const V& v, int width, int height, int count) {
+  if constexpr (requires { v.base; v.s1; v.s2; }) {
+    const int32_t e = elemSize<std::remove_pointer_t<decltype(v.base)>>, rowBytes = mul32(width, e);
+    bool run = v.s2 == e && (height == 1 || v.s1 == rowBytes);
+    if constexpr (requires { v.s0; }) run = run && (count == 1 || v.s0 == mul32(rowBytes, height));
+    return run ? v.base : nullptr;
+  } else {
+    return nullptr;
+  }
+}
+
+// One forward run, element after element. Where the two runs don't overlap the
+// compiler moves it in vector units; where they do, its check keeps the order.
+template <class T>
+inline void moveRun(T* dst, const T* src, size_t n) {
+  for (size_t k = 0; k < n; ++k) moveBits(dst[k], src[k]);
+}
+
 // dst(n)(i, j) = src(n)(i, j) for `height` rows of `width`. Sizes are ints or
-// integral constants: a square size of 3 to 6 is laid out straight.
+// integral constants: a square size of 3 to 6 is laid out straight. A packed
+// array, or each packed object, is one forward run: the same order.
+// Element j of row i of an object, the row's address formed once.
+template <class O>
+inline auto rowOf(const O& o, int i) {
+  if constexpr (requires { o.ptrs; })
+    return [p = o.ptrs + i * o.rowLen, shift = o.shift](int j) -> auto& { return *byteAt(p[j], shift); };
+  else if constexpr (requires { o.base; })
+    return [p = o.row(i), s2 = o.stride2()](int j) -> auto& { return *byteAt(p, mul32(j, s2)); };
+  else
+    return [&o, i](int j) -> auto& { return o.at(i, j); };
+}
+
+template <class S, class D>
+inline bool movedAsRun(const S& src, const D& dst, int width, int height, int count) {
+  const auto s = runOf(src, width, height, count);
+  const auto d = runOf(dst, width, height, count);
+  if constexpr (std::is_null_pointer_v<decltype(s)> || std::is_null_pointer_v<decltype(d)>) {
+    return false;
+  } else {
+    if (!s || !d) return false;
+    moveRun(d, s, size_t(width) * size_t(height) * size_t(count));
+    return true;
+  }
+}
+
 template <Walk W = Walk::Objects, class S, class D, class Width, class Height>
 inline void moveObjects(S src, D dst, Width width, Height height, int count) {
   if constexpr (W == Walk::Objects) {
+    if (movedAsRun(src, dst, width, height, count)) return;
     for (int n = 0; n < count; ++n) {
       const auto so = src.object(n);
       const auto dobj = dst.object(n);
-      for (int i = 0; i < height; ++i)
-        for (int j = 0; j < width; ++j) moveBits(dobj.at(i, j), so.at(i, j));
+      if (movedAsRun(so, dobj, width, height, 1)) continue;
+      for (int i = 0; i < height; ++i) {
+        const auto s = rowOf(so, i);
+        const auto d = rowOf(dobj, i);
+        for (int j = 0; j < width; ++j) moveBits(d(j), s(j));
+      }
     }
   } else {
     for (int i = 0; i < height; ++i)
