@@ -156,7 +156,14 @@ int frobGroups(A a, D d, int count) {
     typename A::Object o[S::L];
     for (int k = 0; k < S::L; ++k) o[k] = a.object(n + k);
     typename S::V sum = S::zero();
-    unroll<N * N>([&](auto e) {
+    if constexpr (S::L == 4 && N == 4) {  // rows of four objects, transposed into columns
+      for (int i = 0; i < 4; ++i) {
+        __m128 c[4];
+        for (int k = 0; k < 4; ++k) c[k] = _mm_loadu_ps(o[k].row(i));
+        _MM_TRANSPOSE4_PS(c[0], c[1], c[2], c[3]);
+        for (int j = 0; j < 4; ++j) sum = S::add(sum, S::mul(c[j], c[j]));
+      }
+    } else unroll<N * N>([&](auto e) {
       constexpr int i = e / N, j = e % N;
       typename S::V v;
       if constexpr (S::L == 4) v = S::gather(o[0].at(i, j), o[1].at(i, j), o[2].at(i, j), o[3].at(i, j));
