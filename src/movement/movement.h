@@ -6,14 +6,10 @@
 
 #include "../frame/views.h"
 
-#include <cstring>
 #include <type_traits>
 #include <utility>
 
 namespace qel::move {
-
-template <class V>
-using ElemOf = typename V::Object::Elem;
 
 // One element as bits. An SSE load and store of a float or double is a plain
 // move, never a conversion, so a signalling NaN keeps its payload; a typed
