@@ -130,7 +130,7 @@ auto sumOfSquares(const O& o, Width width, Height height) {
     return s;
   } else {
     const bool adjacent = height == 1 || o.s1 == mul32(width, o.stride2());
-    auto oneRun = [&] { return addRun(T(0), width * height, [&](int k) { return at(k / width, k % width); }); };
+    auto oneRun = [&] { return addRun(T(0), width * height, [&](int k) { return T(*byteAt(o.base, mul32(k, o.stride2()))); }); };
     if constexpr (isContiguousKernel<O> && std::is_same_v<T, Qel64f>) {
       return rowsInTurn();  // Qel64f contiguous: rows in turn, whatever the sizes
     } else if constexpr (isContiguousKernel<O>) {
