@@ -1542,6 +1542,244 @@ QelStatus qelmLUBackSubst_mava_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, 
                                      QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0,
                                      QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int size, int count);
 
+/* ---- Copy between descriptions: every element of `count` matrices (ma) or
+ * vectors (va) moved as its bit pattern, objects, rows and elements in rising
+ * order. The two letters name the source's and the destination's description
+ * (S standard, L list of objects, P pointer per element). */
+
+QelStatus qelmCopy_ma_32f_SS(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2, Qel32f* dst,
+                             int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                             int count);
+QelStatus qelmCopy_ma_32f_SL(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1, int dstStride2,
+                             int width, int height, int count);
+QelStatus qelmCopy_ma_32f_SP(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmCopy_ma_32f_LS(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                             Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int width,
+                             int height, int count);
+QelStatus qelmCopy_ma_32f_LL(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1, int dstStride2,
+                             int width, int height, int count);
+QelStatus qelmCopy_ma_32f_LP(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmCopy_ma_32f_PS(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, Qel32f* dst,
+                             int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                             int count);
+QelStatus qelmCopy_ma_32f_PL(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1, int dstStride2,
+                             int width, int height, int count);
+QelStatus qelmCopy_ma_32f_PP(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmCopy_ma_64f_SS(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2, Qel64f* dst,
+                             int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                             int count);
+QelStatus qelmCopy_ma_64f_SL(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1, int dstStride2,
+                             int width, int height, int count);
+QelStatus qelmCopy_ma_64f_SP(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmCopy_ma_64f_LS(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                             Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int width,
+                             int height, int count);
+QelStatus qelmCopy_ma_64f_LL(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1, int dstStride2,
+                             int width, int height, int count);
+QelStatus qelmCopy_ma_64f_LP(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmCopy_ma_64f_PS(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, Qel64f* dst,
+                             int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                             int count);
+QelStatus qelmCopy_ma_64f_PL(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1, int dstStride2,
+                             int width, int height, int count);
+QelStatus qelmCopy_ma_64f_PP(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int width,
+                             int height, int count);
+QelStatus qelmCopy_va_32f_SS(const Qel32f* src, int srcStride0, int srcStride2, Qel32f* dst, int dstStride0,
+                             int dstStride2, int len, int count);
+QelStatus qelmCopy_va_32f_SL(const Qel32f* src, int srcStride0, int srcStride2, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmCopy_va_32f_SP(const Qel32f* src, int srcStride0, int srcStride2, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmCopy_va_32f_LS(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride2, Qel32f* dst,
+                             int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmCopy_va_32f_LL(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride2,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmCopy_va_32f_LP(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride2,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmCopy_va_32f_PS(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, Qel32f* dst,
+                             int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmCopy_va_32f_PL(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmCopy_va_32f_PP(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0,
+                             QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmCopy_va_64f_SS(const Qel64f* src, int srcStride0, int srcStride2, Qel64f* dst, int dstStride0,
+                             int dstStride2, int len, int count);
+QelStatus qelmCopy_va_64f_SL(const Qel64f* src, int srcStride0, int srcStride2, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmCopy_va_64f_SP(const Qel64f* src, int srcStride0, int srcStride2, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmCopy_va_64f_LS(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride2, Qel64f* dst,
+                             int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmCopy_va_64f_LL(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride2,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmCopy_va_64f_LP(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride2,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmCopy_va_64f_PS(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, Qel64f* dst,
+                             int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmCopy_va_64f_PL(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmCopy_va_64f_PP(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0,
+                             QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int len, int count);
+
+/* ---- Extract into a packed buffer: dst[n*width*height + i*width + j] (vectors
+ * dst[n*len + j]); t and ta are read transposed, stored width rows by height. */
+
+QelStatus qelmExtract_m_32f(const Qel32f* src, int srcStride1, int srcStride2, Qel32f* dst, int width,
+                            int height);
+QelStatus qelmExtract_m_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32f* dst, int width,
+                              int height);
+QelStatus qelmExtract_m_64f(const Qel64f* src, int srcStride1, int srcStride2, Qel64f* dst, int width,
+                            int height);
+QelStatus qelmExtract_m_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, Qel64f* dst, int width,
+                              int height);
+QelStatus qelmExtract_t_32f(const Qel32f* src, int srcStride1, int srcStride2, Qel32f* dst, int width,
+                            int height);
+QelStatus qelmExtract_t_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32f* dst, int width,
+                              int height);
+QelStatus qelmExtract_t_64f(const Qel64f* src, int srcStride1, int srcStride2, Qel64f* dst, int width,
+                            int height);
+QelStatus qelmExtract_t_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, Qel64f* dst, int width,
+                              int height);
+QelStatus qelmExtract_v_32f(const Qel32f* src, int srcStride2, Qel32f* dst, int len);
+QelStatus qelmExtract_v_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32f* dst, int len);
+QelStatus qelmExtract_v_64f(const Qel64f* src, int srcStride2, Qel64f* dst, int len);
+QelStatus qelmExtract_v_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, Qel64f* dst, int len);
+QelStatus qelmExtract_ma_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2, Qel32f* dst,
+                             int width, int height, int count);
+QelStatus qelmExtract_ma_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                               Qel32f* dst, int width, int height, int count);
+QelStatus qelmExtract_ma_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, Qel32f* dst,
+                               int width, int height, int count);
+QelStatus qelmExtract_ma_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2, Qel64f* dst,
+                             int width, int height, int count);
+QelStatus qelmExtract_ma_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                               Qel64f* dst, int width, int height, int count);
+QelStatus qelmExtract_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, Qel64f* dst,
+                               int width, int height, int count);
+QelStatus qelmExtract_ta_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2, Qel32f* dst,
+                             int width, int height, int count);
+QelStatus qelmExtract_ta_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                               Qel32f* dst, int width, int height, int count);
+QelStatus qelmExtract_ta_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, Qel32f* dst,
+                               int width, int height, int count);
+QelStatus qelmExtract_ta_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2, Qel64f* dst,
+                             int width, int height, int count);
+QelStatus qelmExtract_ta_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                               Qel64f* dst, int width, int height, int count);
+QelStatus qelmExtract_ta_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, Qel64f* dst,
+                               int width, int height, int count);
+QelStatus qelmExtract_va_32f(const Qel32f* src, int srcStride0, int srcStride2, Qel32f* dst, int len,
+                             int count);
+QelStatus qelmExtract_va_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride2, Qel32f* dst,
+                               int len, int count);
+QelStatus qelmExtract_va_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, Qel32f* dst,
+                               int len, int count);
+QelStatus qelmExtract_va_64f(const Qel64f* src, int srcStride0, int srcStride2, Qel64f* dst, int len,
+                             int count);
+QelStatus qelmExtract_va_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride2, Qel64f* dst,
+                               int len, int count);
+QelStatus qelmExtract_va_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, Qel64f* dst,
+                               int len, int count);
+
+/* ---- Transpose: dst (width rows of height) = the transpose of src (height rows
+ * of width). LoadIdentity: ones on the leading diagonal, zeros elsewhere. */
+
+QelStatus qelmTranspose_m_32f(const Qel32f* src, int srcStride1, int srcStride2, int width, int height,
+                              Qel32f* dst, int dstStride1, int dstStride2);
+QelStatus qelmTranspose_m_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int width, int height,
+                                QEL_DST_LIST(Qel32f) dst, int dstRoiShift);
+QelStatus qelmTranspose_m_64f(const Qel64f* src, int srcStride1, int srcStride2, int width, int height,
+                              Qel64f* dst, int dstStride1, int dstStride2);
+QelStatus qelmTranspose_m_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int width, int height,
+                                QEL_DST_LIST(Qel64f) dst, int dstRoiShift);
+QelStatus qelmTranspose_ma_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2, int width,
+                               int height, Qel32f* dst, int dstStride0, int dstStride1, int dstStride2,
+                               int count);
+QelStatus qelmTranspose_ma_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                                 int width, int height, QEL_DST_LIST(Qel32f) dst, int dstRoiShift,
+                                 int dstStride1, int dstStride2, int count);
+QelStatus qelmTranspose_ma_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, int width,
+                                 int height, QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0,
+                                 int count);
+QelStatus qelmTranspose_ma_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2, int width,
+                               int height, Qel64f* dst, int dstStride0, int dstStride1, int dstStride2,
+                               int count);
+QelStatus qelmTranspose_ma_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                                 int width, int height, QEL_DST_LIST(Qel64f) dst, int dstRoiShift,
+                                 int dstStride1, int dstStride2, int count);
+QelStatus qelmTranspose_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, int width,
+                                 int height, QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0,
+                                 int count);
+QelStatus qelmLoadIdentity_ma_32f(Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int width,
+                                  int height, int count);
+QelStatus qelmLoadIdentity_ma_32f_L(QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1,
+                                    int dstStride2, int width, int height, int count);
+QelStatus qelmLoadIdentity_ma_32f_P(QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int width,
+                                    int height, int count);
+QelStatus qelmLoadIdentity_ma_64f(Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int width,
+                                  int height, int count);
+QelStatus qelmLoadIdentity_ma_64f_L(QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1,
+                                    int dstStride2, int width, int height, int count);
+QelStatus qelmLoadIdentity_ma_64f_P(QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int width,
+                                    int height, int count);
+
+/* ---- Trace (sum of the diagonal of a square matrix) and FrobNorm (square root
+ * of the sum of squares), one scalar per object at dst[n]. */
+
+QelStatus qelmTrace_m_32f(const Qel32f* src, int srcStride1, int srcStride2, int size, Qel32f* dst);
+QelStatus qelmTrace_m_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int size, Qel32f* dst);
+QelStatus qelmTrace_m_64f(const Qel64f* src, int srcStride1, int srcStride2, int size, Qel64f* dst);
+QelStatus qelmTrace_m_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int size, Qel64f* dst);
+QelStatus qelmTrace_ma_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2, int size,
+                           Qel32f* dst, int count);
+QelStatus qelmTrace_ma_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                             int size, Qel32f* dst, int count);
+QelStatus qelmTrace_ma_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, int size,
+                             Qel32f* dst, int count);
+QelStatus qelmTrace_ma_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2, int size,
+                           Qel64f* dst, int count);
+QelStatus qelmTrace_ma_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                             int size, Qel64f* dst, int count);
+QelStatus qelmTrace_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, int size,
+                             Qel64f* dst, int count);
+QelStatus qelmFrobNorm_m_32f(const Qel32f* src, int srcStride1, int srcStride2, int width, int height,
+                             Qel32f* dst);
+QelStatus qelmFrobNorm_m_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int width, int height,
+                               Qel32f* dst);
+QelStatus qelmFrobNorm_m_64f(const Qel64f* src, int srcStride1, int srcStride2, int width, int height,
+                             Qel64f* dst);
+QelStatus qelmFrobNorm_m_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int width, int height,
+                               Qel64f* dst);
+QelStatus qelmFrobNorm_ma_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2, int width,
+                              int height, Qel32f* dst, int count);
+QelStatus qelmFrobNorm_ma_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                                int width, int height, Qel32f* dst, int count);
+QelStatus qelmFrobNorm_ma_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, int width,
+                                int height, Qel32f* dst, int count);
+QelStatus qelmFrobNorm_ma_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2, int width,
+                              int height, Qel64f* dst, int count);
+QelStatus qelmFrobNorm_ma_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                                int width, int height, Qel64f* dst, int count);
+QelStatus qelmFrobNorm_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, int width,
+                                int height, Qel64f* dst, int count);
+
 #ifdef __cplusplus
 }
 #endif

@@ -8,6 +8,8 @@
 //   S  every stride of the descriptions is a positive multiple
 //      of the element size                                     -182
 //   R  every roi shift is a non-negative multiple of it        -202
+//   0  the distance between objects, where a family tests it
+//      apart from the other strides (only with count above 1)  -182
 #pragma once
 
 #include "qelm/qelmtypes.h"
@@ -23,6 +25,7 @@ struct CheckGroups {
   bool match = true;
   bool strides = true;
   bool shifts = true;
+  bool objectStrides = true;
 };
 
 inline bool sizesPositive(std::initializer_list<int32_t> sizes) {
@@ -41,6 +44,7 @@ inline QelStatus firstFailure(const char* order, const CheckGroups& g) {
       case 'M': if (!g.match) return qelStatusSizeMismatch; break;
       case 'S': if (!g.strides) return qelStatusBadStride; break;
       case 'R': if (!g.shifts) return qelStatusBadRoiShift; break;
+      case '0': if (!g.objectStrides) return qelStatusBadStride; break;
       default: break;
     }
   }
@@ -61,6 +65,20 @@ CheckGroups checkViews(int count, std::initializer_list<int32_t> sizes, const V&
   g.sizes = sizesPositive(sizes);
   g.strides = (views.stridesOk() && ...);
   g.shifts = (views.shiftsOk() && ...);
+  return g;
+}
+
+}  // namespace qel
+
+namespace qel {
+
+// Arrays that look at the distance between objects only when there are two or
+// more of them: S covers the strides inside an object, 0 the object distance.
+template <class... V>
+CheckGroups checkViewsObjectStrideIfMany(int count, std::initializer_list<int32_t> sizes, const V&... views) {
+  CheckGroups g = checkViews(count, sizes, views...);
+  g.strides = (views.innerStridesOk() && ...);
+  g.objectStrides = count <= 1 || (views.objectStrideOk() && ...);
   return g;
 }
 

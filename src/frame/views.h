@@ -4,7 +4,9 @@
 //
 // Single-object views (Mat, MatP, Trans, Const) answer at(i, j).
 // Array views answer object(n), a single-object view, and from(first), the array
-// moved to object `first` for a thread's share.
+// moved to object `first` for a thread's share. The arrays of matrices and
+// vectors also split their stride test into the distance between objects and
+// the strides inside one (objectStrideOk, innerStridesOk).
 // All byte distances are formed in 32-bit signed arithmetic before they touch a
 // pointer, as callers are promised.
 #pragma once
@@ -137,7 +139,9 @@ struct StridedArray {
   StridedArray from(int first) const { return {byteAt(base, mul32(first, s0)), s0, s1, s2}; }
   bool unitStride() const { return s2 == elemSize<T>; }
   Contiguous toContiguous() const { return {base, s0, s1, s2}; }
-  bool stridesOk() const { return strideOk<T>(s0) && strideOk<T>(s1) && strideOk<T>(s2); }
+  bool stridesOk() const { return objectStrideOk() && innerStridesOk(); }
+  bool objectStrideOk() const { return strideOk<T>(s0); }
+  bool innerStridesOk() const { return strideOk<T>(s1) && strideOk<T>(s2); }
   bool shiftsOk() const { return true; }
   bool pointerOk() const { return base != nullptr; }
 };
@@ -158,6 +162,8 @@ struct ListArray {
   bool unitStride() const { return s2 == elemSize<T>; }
   Contiguous toContiguous() const { return {list, shift, s1, s2}; }
   bool stridesOk() const { return strideOk<T>(s1) && strideOk<T>(s2); }
+  bool objectStrideOk() const { return true; }
+  bool innerStridesOk() const { return stridesOk(); }
   bool shiftsOk() const { return shiftOk<T>(shift); }
   bool pointerOk() const { return list != nullptr; }
 };
@@ -178,7 +184,9 @@ struct PointerArray {
   PointerArray from(int first) const { return {ptrs, add32(shift, mul32(first, s0)), s0, rowLen}; }
   bool unitStride() const { return true; }
   Contiguous toContiguous() const { return *this; }
-  bool stridesOk() const { return !CheckS0 || strideOk<T>(s0); }
+  bool stridesOk() const { return objectStrideOk(); }
+  bool objectStrideOk() const { return !CheckS0 || strideOk<T>(s0); }
+  bool innerStridesOk() const { return true; }
   bool shiftsOk() const { return shiftOk<T>(shift); }
   bool pointerOk() const { return ptrs != nullptr; }
 };

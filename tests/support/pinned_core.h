@@ -11,9 +11,12 @@ void pinnedSetBudget(int32_t threads);
 // Number of ownGetNumThreads calls since the last reset.
 int32_t pinnedBudgetCalls(void);
 void pinnedResetCalls(void);
-// Answer of ownGetFeature(128) and of the cache size query.
+// Answer of ownGetFeature(128) and of the cache size query; a negative size
+// leaves the caller's result unwritten, as a service that can't tell.
 void pinnedSetFeature(int32_t present);
 void pinnedSetCacheSize(int32_t bytes);
+// Number of cache size queries since the last reset (pinnedResetCalls too).
+int32_t pinnedCacheCalls(void);
 }
 
 // Pins a budget for one scope and clears the call counter.

@@ -28,6 +28,7 @@ struct Outcome { QelStatus status; bool untouched; std::map<char, int> seen; }; 
 struct Args {
   Args(Lay l, const std::vector<Spoil>& b) : lay(l), bad(b) {}
   Lay lay;
+  char objectStride = 'S';  // the group of stride 0 ('0' where it is tested apart)
   std::vector<Spoil> bad;
   std::map<char, int> seen;
   Feed f;
@@ -41,29 +42,31 @@ struct Args {
   void num(char g, long long v) { f.num(take(g, v)); }
   template <class T>  // an operand: pointer, then shift and strides in the order of the form
   void group(Batch<T>& b, bool array, bool matrix) {
-    if (lay == P) return ptr(b.elems()), num('R', b.elemShift), array ? num('S', b.s0) : void();
+    if (lay == P) return ptr(b.elems()), num('R', b.elemShift), array ? num(objectStride, b.s0) : void();
     lay == L && array ? (ptr(b.list()), num('R', b.listShift)) : ptr(b.ptr());
-    if (lay == S && array) num('S', b.s0);
+    if (lay == S && array) num(objectStride, b.s0);
     if (matrix) num('S', b.s1);
     num('S', b.s2);
   }
 };
 
-// The checks N C Z M S R come in that order and write nothing: each argument
+// The checks come in the order `expected` (N C Z M S R unless a family says
+// otherwise; 0 is stride 0 tested apart) and write nothing: each argument
 // spoiled alone (its group's bad values in turn), and the first of a group with
 // the last of each later group. Groups the form lacks drop out; M spoils the
 // sizes listed in `mismatch`. `run(spoils)` makes a fresh call.
 template <class Run>
-void checkOrder(const std::string& name, int e, const std::vector<int>& mismatch, Run run) {
+void checkOrder(const std::string& name, int e, const std::vector<int>& mismatch, Run run,
+                std::string expected = "NCZMSR") {
   const Outcome probe = run(std::vector<Spoil>{});
   ASSERT_EQ(probe.status, qelStatusOk) << name;
   auto args = [&](char g) { return g == 'M' ? int(mismatch.size()) : probe.seen.count(g) ? probe.seen.at(g) : 0; };
-  std::string order = "NCZMSR";
+  std::string order = expected;
   std::erase_if(order, [&](char g) { return !args(g); });
   const std::map<char, std::pair<QelStatus, std::vector<int>>> groups = {
       {'N', {qelStatusNullPointer, {0}}}, {'C', {qelStatusBadCount, {0, -1}}}, {'Z', {qelStatusBadSize, {0, -3}}},
       {'M', {qelStatusSizeMismatch, {0}}}, {'S', {qelStatusBadStride, {e / 2, 0, -e}}},
-      {'R', {qelStatusBadRoiShift, {e / 2, -e}}}};
+      {'R', {qelStatusBadRoiShift, {e / 2, -e}}}, {'0', {qelStatusBadStride, {e / 2, 0, -e}}}};
   auto spoil = [&](char g, int at) {
     const std::vector<int>& v = groups.at(g).second;
     return Spoil{g, g == 'M' ? mismatch[at] : at, v[at % v.size()]};
