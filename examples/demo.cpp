@@ -76,19 +76,22 @@ int demoAddMatrices(int count, int budget) {
 int main(int argc, char** argv) {
   const int count = argc > 1 ? std::atoi(argv[1]) : 1000000;
   const QelLibraryVersion* v = qelmGetLibVersion();
-  std::printf("qelm %d.%d (%s), up to %d threads\n\n", v->major, v->minor, v->version,
-              qelGetNumThreads());
+  // The default budget is what this machine can use: the processors the
+  // process may run on, serial under a passive wait policy.
+  const int machine = qelGetNumThreads();
+  std::printf("qelm %d.%d (%s), thread budget %d on this machine\n\n", v->major, v->minor, v->version,
+              machine);
   int failures = 0;
   for (int systems : {1000, 100000}) {
     failures += demoLuRoad(systems, 1);
-    failures += demoLuRoad(systems, 4);
+    if (machine > 1) failures += demoLuRoad(systems, machine);
   }
   std::printf("\n");
   failures += demoTransformRoad(count, 1);
-  failures += demoTransformRoad(count, 4);
+  if (machine > 1) failures += demoTransformRoad(count, machine);
   std::printf("\n");
   failures += demoAddMatrices(count, 1);
-  failures += demoAddMatrices(count, 4);
+  if (machine > 1) failures += demoAddMatrices(count, machine);
   qelSetNumThreads(0);
   std::printf("\n%s\n", failures ? "demo FAILED" : "all results checked");
   return failures ? 1 : 0;

@@ -30,14 +30,21 @@ int demoLuRoad(int count, int budget) {
     }
 
   qelSetNumThreads(budget);
-  const auto start = std::chrono::steady_clock::now();
-  QelStatus st = qelmLUDecomp_ma_32f(a.data(), matBytes, vecBytes, sizeof(Qel32f), index.data(),
-                                     lu.data(), matBytes, vecBytes, sizeof(Qel32f), n, count);
-  if (st == qelStatusOk)
-    st = qelmLUBackSubst_mava_32f(lu.data(), matBytes, vecBytes, sizeof(Qel32f), index.data(),
-                                  b.data(), vecBytes, sizeof(Qel32f), x.data(), vecBytes,
-                                  sizeof(Qel32f), n, count);
-  const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  // The fastest of three runs: the first forked call of a process also starts
+  // the runtime's threads.
+  QelStatus st = qelStatusOk;
+  double seconds = 0.0;
+  for (int run = 0; run < 3 && st == qelStatusOk; ++run) {
+    const auto start = std::chrono::steady_clock::now();
+    st = qelmLUDecomp_ma_32f(a.data(), matBytes, vecBytes, sizeof(Qel32f), index.data(), lu.data(),
+                             matBytes, vecBytes, sizeof(Qel32f), n, count);
+    if (st == qelStatusOk)
+      st = qelmLUBackSubst_mava_32f(lu.data(), matBytes, vecBytes, sizeof(Qel32f), index.data(),
+                                    b.data(), vecBytes, sizeof(Qel32f), x.data(), vecBytes,
+                                    sizeof(Qel32f), n, count);
+    const double t = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    if (run == 0 || t < seconds) seconds = t;
+  }
   qelSetNumThreads(0);
   if (st != qelStatusOk) {
     std::printf("LU road: %d systems, budget %d: status %d\n", count, budget, int(st));

@@ -369,7 +369,7 @@ template <class V>
 constexpr bool isSingleConstant = std::is_same_v<V, Single<Const<typename V::Object::Elem>>>;
 
 template <class Op, class T, class B>
-void flatRun(const T* a, const B& b, T* d, size_t n) {
+void flatRun(const T* a, const B b, T* d, size_t n) {
   using S = Lanes<T>;
   constexpr size_t W = S::L;
   size_t k = 0;
