@@ -229,11 +229,12 @@ QelStatus luFixedPair(S src, I index, D dst, int n) {
 
 // The serial kernel: objects 0 .. count-1 in order, stopping at the first
 // singular one; later objects and their index entries are left alone.
-// L objects at once, one per lane (four Qel32f, two Qel64f): every element a
-// register across the objects, the same steps as luSteps in every lane, row
-// exchanges as masked blends of whole rows. Nothing is stored unless all L
-// objects pass every test; false then, and the caller runs them one at a time.
-template <int N, class S, class I, class D>
+// L objects at once, one per lane (four Qel32f, two Qel64f), Q registers of
+// them interleaved: every element a register across the objects, the same
+// steps as luSteps in every lane, row exchanges as masked blends of whole rows.
+// Nothing is stored unless all Q * L objects pass every test; false then, and
+// the caller runs them one at a time.
+template <int N, int Q, class S, class I, class D>
 [[gnu::flatten]] bool luLanes(S src, I index, D dst, int n) {
   using T = std::remove_reference_t<decltype(dst.object(0).at(0, 0))>;
   using L = Lanes<T>;
@@ -242,71 +243,79 @@ template <int N, class S, class I, class D>
   constexpr int R = RowRegs<T, N>::R;
   constexpr T tol = LuTolerance<T>::fixed;
 
-  V a[N][N];  // a[i][j]: element (i, j) of every object, rows in pivot order
-  V idx[N];   // the source row at position i, in every lane
-  unroll<N>([&](auto i) {
-    V rows[G][R];
-    unroll<G>([&](auto g) { loadRow<T, N>(src.object(n + g), i, rows[g]); });
-    rowsToLanes<T, N>(rows, a[i]);
-    idx[i] = L::splatInt(i);
+  V a[Q][N][N];  // a[q][i][j]: element (i, j) of every object, rows in pivot order
+  V idx[Q][N];   // the source row at position i, in every lane
+  unroll<Q>([&](auto q) {
+    unroll<N>([&](auto i) {
+      V rows[G][R];
+      unroll<G>([&](auto g) { loadRow<T, N>(src.object(n + q * G + g), i, rows[g]); });
+      rowsToLanes<T, N>(rows, a[q][i]);
+      idx[q][i] = L::splatInt(i);
+    });
   });
   V small = L::zero();
   unroll<N - 1>([&](auto k) {
-    V best = L::abs(a[k][k]);
-    V at = L::splatInt(k);
-    unroll<N - 1 - k>([&](auto m) {
-      constexpr int i = k + 1 + m;
-      const V c = L::abs(a[i][k]);
-      const V gt = L::greater(c, best);
-      best = L::select(gt, c, best);
-      at = L::select(gt, L::splatInt(i), at);
+    unroll<Q>([&](auto q) {
+      V best = L::abs(a[q][k][k]);
+      V at = L::splatInt(k);
+      unroll<N - 1 - k>([&](auto m) {
+        constexpr int i = k + 1 + m;
+        const V c = L::abs(a[q][i][k]);
+        const V gt = L::greater(c, best);
+        best = L::select(gt, c, best);
+        at = L::select(gt, L::splatInt(i), at);
+      });
+      unroll<N - 1 - k>([&](auto m) {
+        constexpr int i = k + 1 + m;
+        const V take = L::equalInt(at, i);
+        auto exchange = [&](V& x, V& y) {
+          const V t = x;
+          x = L::select(take, y, t);
+          y = L::select(take, t, y);
+        };
+        unroll<N>([&](auto j) { exchange(a[q][k][j], a[q][i][j]); });
+        exchange(idx[q][k], idx[q][i]);
+      });
+      small = L::either(small, L::greater(L::splat(tol), L::abs(a[q][k][k])));
     });
-    unroll<N - 1 - k>([&](auto m) {
-      constexpr int i = k + 1 + m;
-      const V take = L::equalInt(at, i);
-      auto exchange = [&](V& x, V& y) {
-        const V t = x;
-        x = L::select(take, y, t);
-        y = L::select(take, t, y);
-      };
-      unroll<N>([&](auto j) { exchange(a[k][j], a[i][j]); });
-      exchange(idx[k], idx[i]);
-    });
-    const V pivot = a[k][k];
-    small = L::either(small, L::greater(L::splat(tol), L::abs(pivot)));
-    V r;
-    if constexpr (k < N - 2) r = L::div(L::splat(T(1)), pivot);
-    unroll<N - 1 - k>([&](auto m) {
-      constexpr int i = k + 1 + m;
-      V l;
-      if constexpr (k < N - 2) l = L::mul(a[i][k], r);
-      else l = L::div(a[i][k], pivot);
-      a[i][k] = l;
-      unroll<N - 1 - k>([&](auto jm) {
-        constexpr int j = k + 1 + jm;
-        a[i][j] = L::sub(a[i][j], L::mul(a[k][j], l));
+    unroll<Q>([&](auto q) {
+      const V pivot = a[q][k][k];
+      V r;
+      if constexpr (k < N - 2) r = L::div(L::splat(T(1)), pivot);
+      unroll<N - 1 - k>([&](auto m) {
+        constexpr int i = k + 1 + m;
+        V l;
+        if constexpr (k < N - 2) l = L::mul(a[q][i][k], r);
+        else l = L::div(a[q][i][k], pivot);
+        a[q][i][k] = l;
+        unroll<N - 1 - k>([&](auto jm) {
+          constexpr int j = k + 1 + jm;
+          a[q][i][j] = L::sub(a[q][i][j], L::mul(a[q][k][j], l));
+        });
       });
     });
   });
-  small = L::either(small, L::greater(L::splat(tol), L::abs(a[N - 1][N - 1])));
+  unroll<Q>([&](auto q) { small = L::either(small, L::greater(L::splat(tol), L::abs(a[q][N - 1][N - 1]))); });
   if (L::anyLane(small)) return false;
 
-  // Lane g of an index register holds its row number in 32-bit element
-  // g * 4 / G (a Qel64f lane carries it twice).
-  alignas(16) int32_t rowsOf[N][4];
-  unroll<N>([&](auto k) {
-    if constexpr (G == 4) _mm_store_si128(reinterpret_cast<__m128i*>(rowsOf[k]), _mm_castps_si128(idx[k]));
-    else _mm_store_si128(reinterpret_cast<__m128i*>(rowsOf[k]), _mm_castpd_si128(idx[k]));
-  });
-  V rows[N][G][R];
-  unroll<N>([&](auto k) { lanesToRows<T, N>(a[k], rows[k]); });
-  unroll<G>([&](auto g) {
-    const auto d = dst.object(n + g);
-    Qel32s* ix = index.object(n + g);
+  unroll<Q>([&](auto q) {
+    // Lane g of an index register holds its row number in 32-bit element
+    // g * 4 / G (a Qel64f lane carries it twice).
+    alignas(16) int32_t rowsOf[N][4];
     unroll<N>([&](auto k) {
-      const int row = rowsOf[k][g * 4 / G];
-      ix[k] = row;
-      storeRow<T, N>(d, row, rows[k][g]);
+      if constexpr (G == 4) _mm_store_si128(reinterpret_cast<__m128i*>(rowsOf[k]), _mm_castps_si128(idx[q][k]));
+      else _mm_store_si128(reinterpret_cast<__m128i*>(rowsOf[k]), _mm_castpd_si128(idx[q][k]));
+    });
+    V rows[N][G][R];
+    unroll<N>([&](auto k) { lanesToRows<T, N>(a[q][k], rows[k]); });
+    unroll<G>([&](auto g) {
+      const auto d = dst.object(n + q * G + g);
+      Qel32s* ix = index.object(n + q * G + g);
+      unroll<N>([&](auto k) {
+        const int row = rowsOf[k][g * 4 / G];
+        ix[k] = row;
+        storeRow<T, N>(d, row, rows[k][g]);
+      });
     });
   });
   return true;
@@ -325,12 +334,13 @@ QelStatus luObjects(S src, I index, D dst, int size, int count) {
     constexpr int N = decltype(order)::value;
     int n = 0;
     if (independentObjects(src, {N, N}, dst, {N, N}, count)) {
-      // Two Qel64f lanes gain less than two objects side by side in luFixedPair.
-      if constexpr (rowsContiguous<typename S::Object> && rowsContiguous<typename D::Object> &&
-                    std::is_same_v<std::remove_const_t<typename D::Object::Elem>, Qel32f>) {
-        constexpr int G = RowRegs<std::remove_const_t<typename D::Object::Elem>, N>::L;
+      // Qel64f registers hold two objects: two registers of them go together.
+      if constexpr (rowsContiguous<typename S::Object> && rowsContiguous<typename D::Object>) {
+        using T = std::remove_const_t<typename D::Object::Elem>;
+        constexpr int Q = std::is_same_v<T, Qel32f> ? 1 : 2;
+        constexpr int G = Q * RowRegs<T, N>::L;
         for (; n + G <= count; n += G)
-          if (!luLanes<N>(src, index, dst, n))
+          if (!luLanes<N, Q>(src, index, dst, n))
             for (int g = 0; g < G; ++g)
               if (QelStatus st = luFixed<N>(src.object(n + g), index.object(n + g), dst.object(n + g))) return st;
       }
