@@ -209,15 +209,16 @@ inline void productRows(const O1& a, const RowBlock<T, N>& b, const OD& d) {
   productRows<T, N>(a, RowsHeld<T, N>{b}, d);
 }
 
-// The same sums, G rows of the result at a time: every op2 register is loaded
-// once for G rows instead of once per row. Rows are stored after their group
-// is formed, so the caller uses this only where no result row can reach an
-// operand row still to be read.
+// The same sums, row by row, with every row address formed once per object
+// (RowPointers for op2, one pointer per op1 row). Each op2 register is loaded
+// where it is used: the load is the copy SSE's two-operand products need
+// anyway. Rows are stored after their group is formed, so the caller uses this
+// only where no result row can reach an operand row still to be read.
 template <class T, int N, class O1, class Rows, class OD>
 inline void productRowGroups(const O1& a, const Rows& b, const OD& d) {
   using S = Lanes<T>;
   using B = RowBlock<T, N>;
-  constexpr int G = B::R == 1 ? 4 : 3;
+  constexpr int G = 1;  // more rows at a time trade loads for register copies and spills
   unroll<(N + G - 1) / G>([&](auto grp) {
     constexpr int i0 = grp * G;
     constexpr int g = N - i0 < G ? N - i0 : G;
