@@ -351,11 +351,16 @@ inline bool isDense(const V& v, int width, int height) {
 
 // Operand B of a flat run: a run as long as A's, or one constant spread over a
 // register once, which makes a scaling stream at copy bandwidth.
-template <class T>
+template <class T, bool Aligned = false>
 struct RunOperand {
   const T* p;
-  typename Lanes<T>::V lanes(size_t k) const { return Lanes<T>::template load<Lanes<T>::L>(p + k); }
+  typename Lanes<T>::V lanes(size_t k) const {
+    if constexpr (Aligned) return Lanes<T>::loadAligned(p + k);
+    else return Lanes<T>::template load<Lanes<T>::L>(p + k);
+  }
   T at(size_t k) const { return p[k]; }
+  bool aligned() const { return (reinterpret_cast<uintptr_t>(p) & 15) == 0; }
+  RunOperand<T, true> alignedForm() const { return {p}; }
 };
 template <class T>
 struct SplatOperand {
@@ -363,27 +368,44 @@ struct SplatOperand {
   typename Lanes<T>::V v = Lanes<T>::splat(val);
   typename Lanes<T>::V lanes(size_t) const { return v; }
   T at(size_t) const { return val; }
+  bool aligned() const { return true; }
+  SplatOperand alignedForm() const { return *this; }
 };
 
 template <class V>
 constexpr bool isSingleConstant = std::is_same_v<V, Single<Const<typename V::Object::Elem>>>;
 
-template <class Op, class T, class B>
-void flatRun(const T* a, const B b, T* d, size_t n) {
+template <bool Aligned, class Op, class T, class B>
+void flatPass(const T* a, const B b, T* d, size_t n) {
   using S = Lanes<T>;
   constexpr size_t W = S::L;
+  auto load = [](const T* p) {
+    if constexpr (Aligned) return S::loadAligned(p);
+    else return S::template load<W>(p);
+  };
   size_t k = 0;
   // Four units a pass, all loaded before any is stored: with dst equal to a
   // source each element is still read before it is written.
   for (; k + 4 * W <= n; k += 4 * W) {
     typename S::V r[4];
-    for (size_t u = 0; u < 4; ++u)
-      r[u] = Op::apply(S::template load<W>(a + k + u * W), b.lanes(k + u * W));
-    for (size_t u = 0; u < 4; ++u) S::template store<W>(d + k + u * W, r[u]);
+    for (size_t u = 0; u < 4; ++u) r[u] = Op::apply(load(a + k + u * W), b.lanes(k + u * W));
+    for (size_t u = 0; u < 4; ++u) {
+      if constexpr (Aligned) S::storeAligned(d + k + u * W, r[u]);
+      else S::template store<W>(d + k + u * W, r[u]);
+    }
   }
   for (; k + W <= n; k += W)
-    S::template store<W>(d + k, Op::apply(S::template load<W>(a + k), b.lanes(k)));
+    S::template store<W>(d + k, Op::apply(load(a + k), b.lanes(k)));
   for (; k < n; ++k) d[k] = Op::apply(a[k], b.at(k));
+}
+
+// Runs that all start on 16 bytes take aligned loads, which the products and
+// sums can read straight from memory: one instruction fewer per unit.
+template <class Op, class T, class B>
+void flatRun(const T* a, const B b, T* d, size_t n) {
+  const bool aligned = ((reinterpret_cast<uintptr_t>(a) | reinterpret_cast<uintptr_t>(d)) & 15) == 0;
+  if (aligned && b.aligned()) flatPass<true, Op>(a, b.alignedForm(), d, n);
+  else flatPass<false, Op>(a, b, d, n);
 }
 
 // The whole kernel over arrays. Square matrices of 3 to 6 (Rows = 0: height
