@@ -49,16 +49,16 @@ struct Args {
   }
 };
 
-// The checks N C Z M S R come in that order and write nothing: each argument
+// The checks N C Z M S R (or the function's own `order`) come in that order and write nothing: each argument
 // spoiled alone (its group's bad values in turn), and the first of a group with
 // the last of each later group. Groups the form lacks drop out; M spoils the
 // sizes listed in `mismatch`. `run(spoils)` makes a fresh call.
 template <class Run>
-void checkOrder(const std::string& name, int e, const std::vector<int>& mismatch, Run run) {
+void checkOrder(const std::string& name, int e, const std::vector<int>& mismatch, Run run,
+                std::string order = "NCZMSR") {
   const Outcome probe = run(std::vector<Spoil>{});
   ASSERT_EQ(probe.status, qelStatusOk) << name;
   auto args = [&](char g) { return g == 'M' ? int(mismatch.size()) : probe.seen.count(g) ? probe.seen.at(g) : 0; };
-  std::string order = "NCZMSR";
   std::erase_if(order, [&](char g) { return !args(g); });
   const std::map<char, std::pair<QelStatus, std::vector<int>>> groups = {
       {'N', {qelStatusNullPointer, {0}}}, {'C', {qelStatusBadCount, {0, -1}}}, {'Z', {qelStatusBadSize, {0, -3}}},
@@ -150,6 +150,21 @@ template <class T>
 T pairSum(const std::vector<T>& t) {
   const T s = (t[0] + t[1]) + (t[2] + t[3]);
   return t.size() == 4 ? s : s + t[4];
+}
+
+// The split sum peeled on the address x of elements of e bytes (x = 0: the
+// plain split sum): two 16-byte accumulators over whole blocks of eight after
+// the peel, whose plain sum starts lane 0, then the rest one by one; plain
+// below peel + 8 terms or when x is no multiple of e.
+template <class T>
+T split(const std::vector<T>& p, uintptr_t x = 0, size_t e = sizeof(T)) {
+  const size_t K = p.size(), lanes = 16 / sizeof(T), r = x % 16, peel = r ? (16 - r) / e : 0;
+  if (r % e || K < peel + 8) return fromZero(p);
+  const size_t q = K - (K - peel) % 8;
+  T acc[2][4] = {{fromZero(p, 0, peel)}}, s[4];  // indexed: a choice of two arrays is a temporary at -O0
+  for (size_t k = peel; k < q; ++k) acc[(k - peel) / lanes % 2][(k - peel) % lanes] += p[k];
+  for (size_t l = 0; l < 4; ++l) s[l] = acc[0][l] + acc[1][l];
+  return std::accumulate(p.begin() + q, p.end(), lanes == 4 ? (s[0] + s[1]) + (s[2] + s[3]) : s[0] + s[1]);
 }
 
 // Mul by a vector and Gaxpy: op(A) of M x K (stored K x M when transposed), x
