@@ -36,6 +36,7 @@ auto held(const V& v) {
     struct Held {
       Three<ElemOf<V>> h;
       const Three<ElemOf<V>>& object(int) const { return h; }
+      Held from(int) const { return *this; }
     };
     return Held{readThree<ElemOf<V>>(v.object(0))};
   }
@@ -63,6 +64,7 @@ inline __m128 lanesOf(const O& o) {
   else return Lanes<float>::load<3>(&o.at(0, 0));
 }
 
+// Arrays step one object at a time (a short distance, not n times the stride).
 template <class A, class B, class D>
 QelStatus crossKernel(A a, B b, D d, int count) {
   using T = ElemOf<D>;
@@ -70,23 +72,24 @@ QelStatus crossKernel(A a, B b, D d, int count) {
     if constexpr (!A::isArray && !B::isArray) {
       stepwise<T>(a.object(0), b.object(0), d.object(0));
     } else {
-      const auto ha = held(a);
-      const auto hb = held(b);
-      for (int n = 0; n < count; ++n) stepwise<T>(ha.object(n), hb.object(n), d.object(n));
+      auto ha = held(a);
+      auto hb = held(b);
+      for (int n = 0; n < count; ++n, ha = ha.from(1), hb = hb.from(1), d = d.from(1))
+        stepwise<T>(ha.object(0), hb.object(0), d.object(0));
     }
   } else if constexpr (std::is_same_v<T, float>) {
-    const auto ha = held(a);
-    const auto hb = held(b);
+    auto ha = held(a);
+    auto hb = held(b);
     const __m128 sa = lanesOf<T>(ha.object(0)), sb = lanesOf<T>(hb.object(0));
-    for (int n = 0; n < count; ++n)
-      Lanes<float>::store<3>(&d.object(n).at(0, 0), crossLanes(A::isArray ? lanesOf<T>(ha.object(n)) : sa,
-                                                               B::isArray ? lanesOf<T>(hb.object(n)) : sb));
+    for (int n = 0; n < count; ++n, ha = ha.from(1), hb = hb.from(1), d = d.from(1))
+      Lanes<float>::store<3>(&d.object(0).at(0, 0), crossLanes(A::isArray ? lanesOf<T>(ha.object(0)) : sa,
+                                                               B::isArray ? lanesOf<T>(hb.object(0)) : sb));
   } else {
-    const auto ha = held(a);
-    const auto hb = held(b);
-    for (int n = 0; n < count; ++n) {
-      const Three<T> x = readThree<T>(ha.object(n)), y = readThree<T>(hb.object(n));
-      stepwise<T>(x, y, d.object(n));
+    auto ha = held(a);
+    auto hb = held(b);
+    for (int n = 0; n < count; ++n, ha = ha.from(1), hb = hb.from(1), d = d.from(1)) {
+      const Three<T> x = readThree<T>(ha.object(0)), y = readThree<T>(hb.object(0));
+      stepwise<T>(x, y, d.object(0));
     }
   }
   return qelStatusOk;

@@ -115,7 +115,7 @@ inline T finish(T s) {
 }
 
 // Element k of `lanes` objects side by side, one object per lane. Contiguous
-// Qel32f objects are read as rows of up to four and transposed.
+// objects are read in rows (up to four Qel32f, pairs of Qel64f) and transposed.
 template <class T, int N, class O>
 inline void columnsOf(const O (&o)[Lanes<T>::L], typename Lanes<T>::V (&c)[N]) {
   using S = Lanes<T>;
@@ -127,6 +127,12 @@ inline void columnsOf(const O (&o)[Lanes<T>::L], typename Lanes<T>::V (&c)[N]) {
     _MM_TRANSPOSE4_PS(r[0], r[1], r[2], r[3]);
     unroll<W>([&](auto k) { c[k] = r[k]; });
     k0 = W;
+  } else if constexpr (O::contiguous) {
+    unroll<N / 2>([&](auto h) {
+      const __m128d r0 = _mm_loadu_pd(&o[0].at(0, 2 * h)), r1 = _mm_loadu_pd(&o[1].at(0, 2 * h));
+      c[2 * h] = _mm_unpacklo_pd(r0, r1), c[2 * h + 1] = _mm_unpackhi_pd(r0, r1);
+    });
+    k0 = N & ~1;
   }
   for (int k = k0; k < N; ++k) {
     if constexpr (S::L == 4) c[k] = S::gather(o[0].at(0, k), o[1].at(0, k), o[2].at(0, k), o[3].at(0, k));
@@ -144,25 +150,30 @@ int laneGroups(const A& a, const B& b, const D& d, int first, int count) {
   V held[N];
   if constexpr (!B::isArray) unroll<N>([&](auto k) { held[k] = S::splat(b.object(0).at(0, k)); });
   int n = first;
-  for (; count - n >= L; n += L) {
+  // The views step a group at a time, so an object's address is one short
+  // distance from the group's.
+  A ag = a.from(first);
+  B bg = b.from(first);
+  D dg = d.from(first);
+  for (; count - n >= L; n += L, ag = ag.from(L), bg = bg.from(L), dg = dg.from(L)) {
     typename A::Object oa[L];
-    unroll<L>([&](auto l) { oa[l] = a.object(n + l); });
+    unroll<L>([&](auto l) { oa[l] = ag.object(l); });
     V ca[N], t[N];
     columnsOf<T, N>(oa, ca);
     if constexpr (Root) {
       unroll<N>([&](auto k) { t[k] = S::mul(ca[k], ca[k]); });  // a length: b is a
     } else if constexpr (B::isArray) {
       typename B::Object ob[L];
-      unroll<L>([&](auto l) { ob[l] = b.object(n + l); });
+      unroll<L>([&](auto l) { ob[l] = bg.object(l); });
       V cb[N];
       columnsOf<T, N>(ob, cb);
       unroll<N>([&](auto k) { t[k] = S::mul(ca[k], cb[k]); });
     } else {
       unroll<N>([&](auto k) { t[k] = S::mul(ca[k], held[k]); });
     }
-    V s = sumTree<tr>(t, S::zero(), S::add);
+    V s = sumTree<tr>(t, S::zero(), [](V x, V y) { return S::add(x, y); });
     if constexpr (Root) s = S::sqrt(s);
-    S::template store<L>(&d.object(n).at(0, 0), s);
+    S::template store<L>(&dg.object(0).at(0, 0), s);
   }
   return n;
 }
@@ -207,7 +218,7 @@ int estimatedRoots(const A& a, const D& d, int count) {
 //             both arrays and dst lie on 16 bytes object after object, lengths
 //             4..6 take Pairs (length 4 for every object, 5 and 6 in groups of
 //             four) and length 3 groups of four, the rest Plain
-//   Groups    lengths in groups of four (Qel32f) Plain, then one by one by the tree
+//   Groups    groups of four (Qel32f) add from zero, the rest one by one by the tree
 //   Estimate  length 3 by the root estimate
 enum class Extra { None, Pairwise, Groups, Estimate };
 
@@ -233,8 +244,11 @@ void straightLine(const A& a, const B& b, const D& d, int count) {
         return;
       }
     }
-  } else if constexpr (contiguous && line.extra == Extra::Groups) {
-    n = laneGroups<T, Tree::Plain, N, line.root>(a, b, d, 0, count);
+  }
+  if constexpr (contiguous && A::isArray) {
+    // Lanes add in the object's own order, so groups cost nothing in rounding;
+    // Groups kernels add their groups from zero, only the rest by their tree.
+    n = laneGroups<T, line.extra == Extra::Groups ? Tree::Plain : tr, N, line.root>(a, b, d, 0, count);
   } else if constexpr (line.extra == Extra::Estimate && N == 3) {
     n = estimatedRoots(a, d, count);
   }

@@ -66,10 +66,10 @@ void straightLine(A a, B b, D d, int count, Op op) {
   T ha[N], hb[N];
   if constexpr (!A::isArray) unroll<N>([&](auto k) { ha[k] = op.first(a.object(0).at(0, k)); });
   if constexpr (!B::isArray) unroll<N>([&](auto k) { hb[k] = op.second(b.object(0).at(0, k)); });
-  for (int n = 0; n < count; ++n) {
-    const auto ao = a.object(n);
-    const auto bo = b.object(n);
-    const auto dobj = d.object(n);
+  for (int n = 0; n < count; ++n, a = a.from(1), b = b.from(1), d = d.from(1)) {  // a step, not n strides
+    const auto ao = a.object(0);
+    const auto bo = b.object(0);
+    const auto dobj = d.object(0);
     T out[N];
     unroll<N>([&](auto k) {
       out[k] = (A::isArray ? op.first(ao.at(0, k)) : ha[k]) + (B::isArray ? op.second(bo.at(0, k)) : hb[k]);
