@@ -58,7 +58,7 @@ struct VCall {
   }
   const Batch<T>& second() const { return e.fam == L2Norm ? a : b; }
   T x(int n, int k) const { return a.get(e.a1 * n, 0, k); }
-  T y(int n, int k) const { return second().get((e.fam == L2Norm ? e.a1 : e.a2) * n, 0, k); }
+  T y(int n, int k) const { return second().get(e.a2 * n, 0, k); }  // L2Norm: a2 is a1
   bool contiguous() const { return e.lay != P && a.s2 == sizeof(T) && second().s2 == sizeof(T) && d.s2 == sizeof(T); }
 };
 
@@ -67,8 +67,7 @@ struct VCall {
 template <class T>
 std::optional<T> model(const VCall<T>& c, int n, int i, int threads) {
   const VExp& e = c.e;
-  auto x = [&](int k) { return c.x(n, k); };
-  auto y = [&](int k) { return c.y(n, k); };
+  auto x = [&](int k) { return c.x(n, k); }, y = [&](int k) { return c.y(n, k); };
   if (e.fam == CrossProduct) return x((i + 1) % 3) * y((i + 2) % 3) - x((i + 2) % 3) * y((i + 1) % 3);
   if (e.fam == Saxpy) return x(i) * c.v1 + y(i);
   if (e.fam == LComb) return x(i) * c.v1 + y(i) * c.v2;
@@ -155,8 +154,7 @@ TEST(Vectors, EveryExportFormLengthCountAndAddressRoundsByItsPath) {
 
 TEST(Vectors, ChecksInTheirOrderWriteNothing) {
   forEach(k32, k64, [&]<class T>(const VExp& e) {
-    const bool cross = e.fam == CrossProduct, arrays = e.a1 || e.a2;
-    const std::string order = !cross ? "NCZSR" : !arrays ? "NSR" : e.name.find("_vav_") == std::string::npos ? "NCSR"
+    const std::string order = e.fam != CrossProduct ? "NCZSR" : !e.a1 && !e.a2 ? "NSR" : !e.is("_vav_") ? "NCSR"
                               : e.lay == S ? "NSC" : e.lay == L ? "NSRC" : "NSCR";
     checkOrder(e.name, sizeof(T), {}, [&](auto bad) { return VCall<T>(e, 3, 2, kForms[0]).run(bad); }, order);
   });
@@ -257,12 +255,11 @@ TEST(Vectors, RootEstimateZeroAndOverlap) {
   std::mt19937 rng(7);
   for (int n = 0; n < count; ++n)
     for (int j = 0; j < 3; ++j) buf[n * pitch + j] = std::uniform_real_distribution<float>(-3, 3)(rng);
-  const float* list[3] = {buf, buf + 1, buf + 2};
   alignas(16) float apart[count], zeros[count * 3] = {}, zeroRoots[count];
+  const float *list[3] = {buf, buf + 1, buf + 2}, *zlist[3] = {zeros, zeros + 1, zeros + 2};
   std::fill(zeroRoots, zeroRoots + count, -1.0f);
   ASSERT_EQ(qelmL2Norm_va_32f_P(list, 0, pitch * 4, apart, 3, count), qelStatusOk);
   ASSERT_EQ(qelmL2Norm_va_32f_P(list, 0, pitch * 4, buf + 4, 3, count), qelStatusOk);
-  const float* zlist[3] = {zeros, zeros + 1, zeros + 2};
   ASSERT_EQ(qelmL2Norm_va_32f_P(zlist, 0, 12, zeroRoots, 3, count), qelStatusOk);
   int differ = 0;
   for (int n = 0; n < count; ++n) {
