@@ -16,6 +16,7 @@
 #include "../frame/views.h"
 #include "qelm/qelmtypes.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 
