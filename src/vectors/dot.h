@@ -141,6 +141,18 @@ inline void columnsOf(const O (&o)[Lanes<T>::L], typename Lanes<T>::V (&c)[N]) {
   }
 }
 
+// The columns of the group of objects at the start of array g; four packed
+// Qel32f vectors of three come in three loads.
+template <class T, int N, class G>
+inline void groupColumns(const G& g, typename Lanes<T>::V (&c)[N]) {
+  if constexpr (N == 3 && std::is_same_v<T, float> && G::Object::contiguous && requires { g.s0; }) {
+    if (g.s0 == 12) return unpack3(g.base, c);
+  }
+  typename G::Object o[Lanes<T>::L];
+  unroll<Lanes<T>::L>([&](auto l) { o[l] = g.object(l); });
+  columnsOf<T, N>(o, c);
+}
+
 // Whole groups of `lanes` objects from `first`, every lane summed by `tr`;
 // answers the object after the last group. A single b is spread once.
 template <class T, Tree tr, int N, bool Root, class A, class B, class D>
@@ -157,17 +169,13 @@ int laneGroups(const A& a, const B& b, const D& d, int first, int count) {
   B bg = b.from(first);
   D dg = d.from(first);
   for (; count - n >= L; n += L, ag = ag.from(L), bg = bg.from(L), dg = dg.from(L)) {
-    typename A::Object oa[L];
-    unroll<L>([&](auto l) { oa[l] = ag.object(l); });
     V ca[N], t[N];
-    columnsOf<T, N>(oa, ca);
+    groupColumns<T, N>(ag, ca);
     if constexpr (Root) {
       unroll<N>([&](auto k) { t[k] = S::mul(ca[k], ca[k]); });  // a length: b is a
     } else if constexpr (B::isArray) {
-      typename B::Object ob[L];
-      unroll<L>([&](auto l) { ob[l] = bg.object(l); });
       V cb[N];
-      columnsOf<T, N>(ob, cb);
+      groupColumns<T, N>(bg, cb);
       unroll<N>([&](auto k) { t[k] = S::mul(ca[k], cb[k]); });
     } else {
       unroll<N>([&](auto k) { t[k] = S::mul(ca[k], held[k]); });
