@@ -109,6 +109,17 @@ inline T smallSum(const OA& a, const OB& b) {
   return sumTree<tr>(t, T(0), [](T x, T y) { return x + y; });
 }
 
+// EvensDot in two Qel64f lanes, one object: lane 0 takes the even terms,
+// lane 1 the odd ones, then lane 0 + lane 1 (and t4 after that at length 5).
+template <int N, class OA, class OB>
+inline double evensInLanes(const OA& a, const OB& b) {
+  auto pair = [&](int k) { return _mm_mul_pd(_mm_loadu_pd(&a.at(0, k)), _mm_loadu_pd(&b.at(0, k))); };
+  const __m128d p = _mm_add_pd(pair(0), pair(2));
+  const double s = _mm_cvtsd_f64(_mm_add_sd(p, _mm_unpackhi_pd(p, p)));
+  if constexpr (N == 5) return s + a.at(0, 4) * b.at(0, 4);
+  else return s;
+}
+
 template <bool Root, class T>
 inline T finish(T s) {
   if constexpr (Root) return std::sqrt(s);
@@ -253,6 +264,12 @@ void straightLine(const A& a, const B& b, const D& d, int count) {
         return;
       }
     }
+  }
+  if constexpr (contiguous && tr == Tree::EvensDot && (N == 4 || N == 5)) {
+    B bn = b;
+    for (A an = a; n < count; ++n, an = an.from(1), bn = bn.from(1))
+      d.object(n).at(0, 0) = finish<line.root>(evensInLanes<N>(an.object(0), bn.object(0)));
+    return;
   }
   if constexpr (contiguous && A::isArray) {
     // Lanes add in the object's own order, so groups cost nothing in rounding;
