@@ -36,7 +36,6 @@ struct Lanes<float> {
   static V splatLane(V v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(I, I, I, I)); }
   static V mul(V a, V b) { return _mm_mul_ps(a, b); }
   static V add(V a, V b) { return _mm_add_ps(a, b); }
-  static V sub(V a, V b) { return _mm_sub_ps(a, b); }
   static V sqrt(V a) { return _mm_sqrt_ps(a); }
   static V loadAligned(const float* p) { return _mm_load_ps(p); }
   static void storeAligned(float* p, V v) { _mm_store_ps(p, v); }
@@ -86,7 +85,6 @@ struct Lanes<double> {
   static V splatLane(V v) { return _mm_shuffle_pd(v, v, I ? 3 : 0); }
   static V mul(V a, V b) { return _mm_mul_pd(a, b); }
   static V add(V a, V b) { return _mm_add_pd(a, b); }
-  static V sub(V a, V b) { return _mm_sub_pd(a, b); }
   static V sqrt(V a) { return _mm_sqrt_pd(a); }
   static V loadAligned(const double* p) { return _mm_load_pd(p); }
   static void storeAligned(double* p, V v) { _mm_store_pd(p, v); }
