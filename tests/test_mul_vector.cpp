@@ -25,20 +25,6 @@ const std::vector<VecExport> k32 = ALL(32f), k64 = ALL(64f);
 const std::set<std::string> kNoSmall = {"mva_32f_L", "tva_32f_L", "tva_64f_L", "tava_64f_L"},
                             kLayout = {"mva_32f", "mav_32f", "mav_32f_L", "mava_32f", "mava_32f_L"};
 
-// The split product peeled on the vector at x (0: the plain one): two 16-byte
-// accumulators over whole blocks of eight after the peel, whose plain sum
-// starts lane 0, then the rest one by one; plain below peel + 8 terms or when
-// x is no multiple of the element size.
-template <class T>
-T split(const std::vector<T>& p, uintptr_t x = 0) {
-  const size_t K = p.size(), lanes = 16 / sizeof(T), r = x % 16, peel = r ? (16 - r) / sizeof(T) : 0;
-  if (r % sizeof(T) || K < peel + 8) return fromZero(p);
-  const size_t q = K - (K - peel) % 8;
-  T acc[2][4] = {{fromZero(p, 0, peel)}}, s[4];  // indexed: a choice of two arrays is a temporary at -O0
-  for (size_t k = peel; k < q; ++k) acc[(k - peel) / lanes % 2][(k - peel) % lanes] += p[k];
-  for (size_t l = 0; l < 4; ++l) s[l] = acc[0][l] + acc[1][l];
-  return std::accumulate(p.begin() + q, p.end(), lanes == 4 ? (s[0] + s[1]) + (s[2] + s[3]) : s[0] + s[1]);
-}
 template <class T>
 bool small(const VecCall<T>& c) {
   return c.M == c.K && c.M >= 3 && c.M <= 6 && !(c.contiguous() && kNoSmall.count(c.e.name));

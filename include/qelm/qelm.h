@@ -1780,6 +1780,236 @@ QelStatus qelmFrobNorm_ma_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int s
 QelStatus qelmFrobNorm_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, int width,
                                 int height, Qel64f* dst, int count);
 
+/* ---- Vector algebra. */
+/* DotProduct: dst[n] = sum of src1(k) src2(k); L2Norm: dst[n] = the square root of the sum of
+ * src(k) squared. dst is a packed array of one result per object in every description; in vav
+ * the array is src1 and src2 the one vector. */
+
+QelStatus qelmDotProduct_vv_32f(const Qel32f* src1, int src1Stride2, const Qel32f* src2, int src2Stride2,
+                                Qel32f* dst, int len);
+QelStatus qelmDotProduct_vv_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, QEL_SRC_LIST(Qel32f) src2,
+                                  int src2RoiShift, Qel32f* dst, int len);
+QelStatus qelmDotProduct_vv_64f(const Qel64f* src1, int src1Stride2, const Qel64f* src2, int src2Stride2,
+                                Qel64f* dst, int len);
+QelStatus qelmDotProduct_vv_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, QEL_SRC_LIST(Qel64f) src2,
+                                  int src2RoiShift, Qel64f* dst, int len);
+QelStatus qelmDotProduct_vav_32f(const Qel32f* src1, int src1Stride0, int src1Stride2, const Qel32f* src2,
+                                 int src2Stride2, Qel32f* dst, int len, int count);
+QelStatus qelmDotProduct_vav_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride2,
+                                   const Qel32f* src2, int src2Stride2, Qel32f* dst, int len, int count);
+QelStatus qelmDotProduct_vav_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                                   QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, Qel32f* dst, int len,
+                                   int count);
+QelStatus qelmDotProduct_vav_64f(const Qel64f* src1, int src1Stride0, int src1Stride2, const Qel64f* src2,
+                                 int src2Stride2, Qel64f* dst, int len, int count);
+QelStatus qelmDotProduct_vav_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride2,
+                                   const Qel64f* src2, int src2Stride2, Qel64f* dst, int len, int count);
+QelStatus qelmDotProduct_vav_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                                   QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, Qel64f* dst, int len,
+                                   int count);
+QelStatus qelmDotProduct_vava_32f(const Qel32f* src1, int src1Stride0, int src1Stride2, const Qel32f* src2,
+                                  int src2Stride0, int src2Stride2, Qel32f* dst, int len, int count);
+QelStatus qelmDotProduct_vava_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride2,
+                                    QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride2, Qel32f* dst,
+                                    int len, int count);
+QelStatus qelmDotProduct_vava_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                                    QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0, Qel32f* dst,
+                                    int len, int count);
+QelStatus qelmDotProduct_vava_64f(const Qel64f* src1, int src1Stride0, int src1Stride2, const Qel64f* src2,
+                                  int src2Stride0, int src2Stride2, Qel64f* dst, int len, int count);
+QelStatus qelmDotProduct_vava_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride2,
+                                    QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride2, Qel64f* dst,
+                                    int len, int count);
+QelStatus qelmDotProduct_vava_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                                    QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0, Qel64f* dst,
+                                    int len, int count);
+QelStatus qelmL2Norm_v_32f(const Qel32f* src, int srcStride2, Qel32f* dst, int len);
+QelStatus qelmL2Norm_v_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32f* dst, int len);
+QelStatus qelmL2Norm_v_64f(const Qel64f* src, int srcStride2, Qel64f* dst, int len);
+QelStatus qelmL2Norm_v_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, Qel64f* dst, int len);
+QelStatus qelmL2Norm_va_32f(const Qel32f* src, int srcStride0, int srcStride2, Qel32f* dst, int len, int count);
+QelStatus qelmL2Norm_va_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride2, Qel32f* dst, int len,
+                              int count);
+QelStatus qelmL2Norm_va_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, Qel32f* dst, int len,
+                              int count);
+QelStatus qelmL2Norm_va_64f(const Qel64f* src, int srcStride0, int srcStride2, Qel64f* dst, int len, int count);
+QelStatus qelmL2Norm_va_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride2, Qel64f* dst, int len,
+                              int count);
+QelStatus qelmL2Norm_va_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, Qel64f* dst, int len,
+                              int count);
+
+/* CrossProduct of three-element vectors: dst = src1 x src2. */
+
+QelStatus qelmCrossProduct_vv_32f(const Qel32f* src1, int src1Stride2, const Qel32f* src2, int src2Stride2,
+                                  Qel32f* dst, int dstStride2);
+QelStatus qelmCrossProduct_vv_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, QEL_SRC_LIST(Qel32f) src2,
+                                    int src2RoiShift, QEL_DST_LIST(Qel32f) dst, int dstRoiShift);
+QelStatus qelmCrossProduct_vv_64f(const Qel64f* src1, int src1Stride2, const Qel64f* src2, int src2Stride2,
+                                  Qel64f* dst, int dstStride2);
+QelStatus qelmCrossProduct_vv_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, QEL_SRC_LIST(Qel64f) src2,
+                                    int src2RoiShift, QEL_DST_LIST(Qel64f) dst, int dstRoiShift);
+QelStatus qelmCrossProduct_vav_32f(const Qel32f* src1, int src1Stride0, int src1Stride2, const Qel32f* src2,
+                                   int src2Stride2, Qel32f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmCrossProduct_vav_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride2,
+                                     const Qel32f* src2, int src2Stride2, QEL_DST_LIST(Qel32f) dst,
+                                     int dstRoiShift, int dstStride2, int count);
+QelStatus qelmCrossProduct_vav_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                                     QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, QEL_DST_LIST(Qel32f) dst,
+                                     int dstRoiShift, int dstStride0, int count);
+QelStatus qelmCrossProduct_vav_64f(const Qel64f* src1, int src1Stride0, int src1Stride2, const Qel64f* src2,
+                                   int src2Stride2, Qel64f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmCrossProduct_vav_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride2,
+                                     const Qel64f* src2, int src2Stride2, QEL_DST_LIST(Qel64f) dst,
+                                     int dstRoiShift, int dstStride2, int count);
+QelStatus qelmCrossProduct_vav_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                                     QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, QEL_DST_LIST(Qel64f) dst,
+                                     int dstRoiShift, int dstStride0, int count);
+QelStatus qelmCrossProduct_vva_32f(const Qel32f* src1, int src1Stride2, const Qel32f* src2, int src2Stride0,
+                                   int src2Stride2, Qel32f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmCrossProduct_vva_32f_L(const Qel32f* src1, int src1Stride2, QEL_SRC_LIST(Qel32f) src2,
+                                     int src2RoiShift, int src2Stride2, QEL_DST_LIST(Qel32f) dst,
+                                     int dstRoiShift, int dstStride2, int count);
+QelStatus qelmCrossProduct_vva_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, QEL_SRC_LIST(Qel32f) src2,
+                                     int src2RoiShift, int src2Stride0, QEL_DST_LIST(Qel32f) dst,
+                                     int dstRoiShift, int dstStride0, int count);
+QelStatus qelmCrossProduct_vva_64f(const Qel64f* src1, int src1Stride2, const Qel64f* src2, int src2Stride0,
+                                   int src2Stride2, Qel64f* dst, int dstStride0, int dstStride2, int count);
+QelStatus qelmCrossProduct_vva_64f_L(const Qel64f* src1, int src1Stride2, QEL_SRC_LIST(Qel64f) src2,
+                                     int src2RoiShift, int src2Stride2, QEL_DST_LIST(Qel64f) dst,
+                                     int dstRoiShift, int dstStride2, int count);
+QelStatus qelmCrossProduct_vva_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, QEL_SRC_LIST(Qel64f) src2,
+                                     int src2RoiShift, int src2Stride0, QEL_DST_LIST(Qel64f) dst,
+                                     int dstRoiShift, int dstStride0, int count);
+QelStatus qelmCrossProduct_vava_32f(const Qel32f* src1, int src1Stride0, int src1Stride2, const Qel32f* src2,
+                                    int src2Stride0, int src2Stride2, Qel32f* dst, int dstStride0,
+                                    int dstStride2, int count);
+QelStatus qelmCrossProduct_vava_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride2,
+                                      QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride2,
+                                      QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int count);
+QelStatus qelmCrossProduct_vava_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0,
+                                      QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0,
+                                      QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int count);
+QelStatus qelmCrossProduct_vava_64f(const Qel64f* src1, int src1Stride0, int src1Stride2, const Qel64f* src2,
+                                    int src2Stride0, int src2Stride2, Qel64f* dst, int dstStride0,
+                                    int dstStride2, int count);
+QelStatus qelmCrossProduct_vava_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride2,
+                                      QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride2,
+                                      QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int count);
+QelStatus qelmCrossProduct_vava_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0,
+                                      QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0,
+                                      QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int count);
+
+/* Saxpy: dst(k) = src1(k) val + src2(k); LComb: dst(k) = src1(k) val1 + src2(k) val2. */
+
+QelStatus qelmSaxpy_vv_32f(const Qel32f* src1, int src1Stride2, Qel32f val, const Qel32f* src2, int src2Stride2,
+                           Qel32f* dst, int dstStride2, int len);
+QelStatus qelmSaxpy_vv_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, Qel32f val, QEL_SRC_LIST(Qel32f) src2,
+                             int src2RoiShift, QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int len);
+QelStatus qelmSaxpy_vv_64f(const Qel64f* src1, int src1Stride2, Qel64f val, const Qel64f* src2, int src2Stride2,
+                           Qel64f* dst, int dstStride2, int len);
+QelStatus qelmSaxpy_vv_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, Qel64f val, QEL_SRC_LIST(Qel64f) src2,
+                             int src2RoiShift, QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int len);
+QelStatus qelmSaxpy_vav_32f(const Qel32f* src1, int src1Stride0, int src1Stride2, Qel32f val,
+                            const Qel32f* src2, int src2Stride2, Qel32f* dst, int dstStride0, int dstStride2,
+                            int len, int count);
+QelStatus qelmSaxpy_vav_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride2, Qel32f val,
+                              const Qel32f* src2, int src2Stride2, QEL_DST_LIST(Qel32f) dst, int dstRoiShift,
+                              int dstStride2, int len, int count);
+QelStatus qelmSaxpy_vav_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0, Qel32f val,
+                              QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, QEL_DST_LIST(Qel32f) dst,
+                              int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmSaxpy_vav_64f(const Qel64f* src1, int src1Stride0, int src1Stride2, Qel64f val,
+                            const Qel64f* src2, int src2Stride2, Qel64f* dst, int dstStride0, int dstStride2,
+                            int len, int count);
+QelStatus qelmSaxpy_vav_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride2, Qel64f val,
+                              const Qel64f* src2, int src2Stride2, QEL_DST_LIST(Qel64f) dst, int dstRoiShift,
+                              int dstStride2, int len, int count);
+QelStatus qelmSaxpy_vav_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0, Qel64f val,
+                              QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, QEL_DST_LIST(Qel64f) dst,
+                              int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmSaxpy_vva_32f(const Qel32f* src1, int src1Stride2, Qel32f val, const Qel32f* src2,
+                            int src2Stride0, int src2Stride2, Qel32f* dst, int dstStride0, int dstStride2,
+                            int len, int count);
+QelStatus qelmSaxpy_vva_32f_L(const Qel32f* src1, int src1Stride2, Qel32f val, QEL_SRC_LIST(Qel32f) src2,
+                              int src2RoiShift, int src2Stride2, QEL_DST_LIST(Qel32f) dst, int dstRoiShift,
+                              int dstStride2, int len, int count);
+QelStatus qelmSaxpy_vva_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, Qel32f val,
+                              QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0,
+                              QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmSaxpy_vva_64f(const Qel64f* src1, int src1Stride2, Qel64f val, const Qel64f* src2,
+                            int src2Stride0, int src2Stride2, Qel64f* dst, int dstStride0, int dstStride2,
+                            int len, int count);
+QelStatus qelmSaxpy_vva_64f_L(const Qel64f* src1, int src1Stride2, Qel64f val, QEL_SRC_LIST(Qel64f) src2,
+                              int src2RoiShift, int src2Stride2, QEL_DST_LIST(Qel64f) dst, int dstRoiShift,
+                              int dstStride2, int len, int count);
+QelStatus qelmSaxpy_vva_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, Qel64f val,
+                              QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0,
+                              QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmSaxpy_vava_32f(const Qel32f* src1, int src1Stride0, int src1Stride2, Qel32f val,
+                             const Qel32f* src2, int src2Stride0, int src2Stride2, Qel32f* dst, int dstStride0,
+                             int dstStride2, int len, int count);
+QelStatus qelmSaxpy_vava_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride2, Qel32f val,
+                               QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride2,
+                               QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmSaxpy_vava_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0, Qel32f val,
+                               QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0,
+                               QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmSaxpy_vava_64f(const Qel64f* src1, int src1Stride0, int src1Stride2, Qel64f val,
+                             const Qel64f* src2, int src2Stride0, int src2Stride2, Qel64f* dst, int dstStride0,
+                             int dstStride2, int len, int count);
+QelStatus qelmSaxpy_vava_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride2, Qel64f val,
+                               QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride2,
+                               QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmSaxpy_vava_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0, Qel64f val,
+                               QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0,
+                               QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmLComb_vv_32f(const Qel32f* src1, int src1Stride2, Qel32f val1, const Qel32f* src2,
+                           int src2Stride2, Qel32f val2, Qel32f* dst, int dstStride2, int len);
+QelStatus qelmLComb_vv_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, Qel32f val1,
+                             QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, Qel32f val2, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int len);
+QelStatus qelmLComb_vv_64f(const Qel64f* src1, int src1Stride2, Qel64f val1, const Qel64f* src2,
+                           int src2Stride2, Qel64f val2, Qel64f* dst, int dstStride2, int len);
+QelStatus qelmLComb_vv_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, Qel64f val1,
+                             QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, Qel64f val2, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int len);
+QelStatus qelmLComb_vav_32f(const Qel32f* src1, int src1Stride0, int src1Stride2, Qel32f val1,
+                            const Qel32f* src2, int src2Stride2, Qel32f val2, Qel32f* dst, int dstStride0,
+                            int dstStride2, int len, int count);
+QelStatus qelmLComb_vav_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride2, Qel32f val1,
+                              const Qel32f* src2, int src2Stride2, Qel32f val2, QEL_DST_LIST(Qel32f) dst,
+                              int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmLComb_vav_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0, Qel32f val1,
+                              QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, Qel32f val2,
+                              QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmLComb_vav_64f(const Qel64f* src1, int src1Stride0, int src1Stride2, Qel64f val1,
+                            const Qel64f* src2, int src2Stride2, Qel64f val2, Qel64f* dst, int dstStride0,
+                            int dstStride2, int len, int count);
+QelStatus qelmLComb_vav_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride2, Qel64f val1,
+                              const Qel64f* src2, int src2Stride2, Qel64f val2, QEL_DST_LIST(Qel64f) dst,
+                              int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmLComb_vav_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0, Qel64f val1,
+                              QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, Qel64f val2,
+                              QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmLComb_vava_32f(const Qel32f* src1, int src1Stride0, int src1Stride2, Qel32f val1,
+                             const Qel32f* src2, int src2Stride0, int src2Stride2, Qel32f val2, Qel32f* dst,
+                             int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmLComb_vava_32f_L(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride2, Qel32f val1,
+                               QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride2, Qel32f val2,
+                               QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmLComb_vava_32f_P(QEL_SRC_LIST(Qel32f) src1, int src1RoiShift, int src1Stride0, Qel32f val1,
+                               QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0, Qel32f val2,
+                               QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int len, int count);
+QelStatus qelmLComb_vava_64f(const Qel64f* src1, int src1Stride0, int src1Stride2, Qel64f val1,
+                             const Qel64f* src2, int src2Stride0, int src2Stride2, Qel64f val2, Qel64f* dst,
+                             int dstStride0, int dstStride2, int len, int count);
+QelStatus qelmLComb_vava_64f_L(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride2, Qel64f val1,
+                               QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride2, Qel64f val2,
+                               QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int len, int count);
+QelStatus qelmLComb_vava_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int src1Stride0, Qel64f val1,
+                               QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0, Qel64f val2,
+                               QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int len, int count);
+
 #ifdef __cplusplus
 }
 #endif

@@ -38,6 +38,7 @@ struct Lanes<float> {
   static V splatLane(V v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(I, I, I, I)); }
   static V mul(V a, V b) { return _mm_mul_ps(a, b); }
   static V add(V a, V b) { return _mm_add_ps(a, b); }
+  static V sqrt(V a) { return _mm_sqrt_ps(a); }
   static V loadAligned(const float* p) { return _mm_load_ps(p); }
   static void storeAligned(float* p, V v) { _mm_store_ps(p, v); }
   // C consecutive elements (1 to 4), the other lanes zero.
@@ -101,6 +102,7 @@ struct Lanes<double> {
   static V splatLane(V v) { return _mm_shuffle_pd(v, v, I ? 3 : 0); }
   static V mul(V a, V b) { return _mm_mul_pd(a, b); }
   static V add(V a, V b) { return _mm_add_pd(a, b); }
+  static V sqrt(V a) { return _mm_sqrt_pd(a); }
   static V loadAligned(const double* p) { return _mm_load_pd(p); }
   static void storeAligned(double* p, V v) { _mm_store_pd(p, v); }
   template <int C>
@@ -226,6 +228,25 @@ inline void lanesToRows(const typename Lanes<T>::V (&cols)[N],
       rows[1][q] = _mm_unpackhi_pd(cols[q * 2], hi);
     }
   });
+}
+
+// Four packed 3-element Qel32f vectors (12 bytes apart) as three registers,
+// element k of vector l in lane l of register k, and back.
+inline void unpack3(const float* p, __m128 (&v)[3]) {
+  const __m128 r0 = _mm_loadu_ps(p), r1 = _mm_loadu_ps(p + 4), r2 = _mm_loadu_ps(p + 8);
+  v[0] = _mm_shuffle_ps(r0, _mm_shuffle_ps(r1, r2, _MM_SHUFFLE(1, 1, 2, 2)), _MM_SHUFFLE(2, 0, 3, 0));
+  v[1] = _mm_shuffle_ps(_mm_shuffle_ps(r0, r1, _MM_SHUFFLE(0, 0, 1, 1)),
+                        _mm_shuffle_ps(r1, r2, _MM_SHUFFLE(2, 2, 3, 3)), _MM_SHUFFLE(2, 0, 2, 0));
+  v[2] = _mm_shuffle_ps(_mm_shuffle_ps(r0, r1, _MM_SHUFFLE(1, 1, 2, 2)), r2, _MM_SHUFFLE(3, 0, 2, 0));
+}
+inline void pack3(float* p, const __m128 (&o)[3]) {
+  const auto even = [](__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)); };
+  _mm_storeu_ps(p, even(_mm_shuffle_ps(o[0], o[1], _MM_SHUFFLE(0, 0, 0, 0)),
+                        _mm_shuffle_ps(o[2], o[0], _MM_SHUFFLE(1, 1, 0, 0))));
+  _mm_storeu_ps(p + 4, even(_mm_shuffle_ps(o[1], o[2], _MM_SHUFFLE(1, 1, 1, 1)),
+                            _mm_shuffle_ps(o[0], o[1], _MM_SHUFFLE(2, 2, 2, 2))));
+  _mm_storeu_ps(p + 8, even(_mm_shuffle_ps(o[2], o[0], _MM_SHUFFLE(3, 3, 2, 2)),
+                            _mm_shuffle_ps(o[1], o[2], _MM_SHUFFLE(3, 3, 3, 3))));
 }
 
 }  // namespace qel

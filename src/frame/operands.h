@@ -6,6 +6,7 @@
 //      transposed
 //   v  one vector          va  array of vectors
 //   c  constant by value   ca  array of constants
+//   r  one result element per object, a plain packed array in every layout
 // Layouts: S standard, L list of objects, P pointer per element; Pns is the _P
 // array whose object distance goes unchecked (one export has it).
 //
@@ -48,6 +49,9 @@ template <class T>
 ListArray<T> vectorArrayL(T* const* p, int shift, int s2) { return {p, shift, elemSize<T>, s2}; }
 template <class T>
 Single<Mat<T>> vectorSingle(T* p, int s2) { return {{p, elemSize<T>, s2}}; }
+
+template <class T>
+StridedArray<T> results(T* p) { return {p, elemSize<T>, elemSize<T>, elemSize<T>}; }
 
 template <class T>
 Single<Const<T>> constant(T val) { return {{val}}; }
@@ -123,3 +127,11 @@ Single<Trans<V>> transposed(Single<V> s) { return {{s.v}}; }
 #define QEL_VIEW_ca_L(x, len) ::qel::constList(x, x##RoiShift)
 #define QEL_VIEW_ca_P(x, len) QEL_VIEW_ca_S(x, len)
 #define QEL_VIEW_ca_Pns QEL_VIEW_ca_P
+
+// ---- one result per object: element n of a packed array, whatever the layout
+#define QEL_ARGS_r_S(T, x) T *x
+#define QEL_ARGS_r_L QEL_ARGS_r_S
+#define QEL_ARGS_r_P QEL_ARGS_r_S
+#define QEL_VIEW_r_S(x, len) ::qel::results(x)
+#define QEL_VIEW_r_L QEL_VIEW_r_S
+#define QEL_VIEW_r_P QEL_VIEW_r_S

@@ -189,24 +189,6 @@ inline void squareObject(const Columns<T, N>& a, const typename Lanes<T>::V (&xs
   storeLanes<T, N>(d, y);
 }
 
-// Four packed 3-element Qel32f vectors as three registers, and back.
-inline void unpack3(const float* p, __m128 (&v)[3]) {
-  const __m128 r0 = _mm_loadu_ps(p), r1 = _mm_loadu_ps(p + 4), r2 = _mm_loadu_ps(p + 8);
-  v[0] = _mm_shuffle_ps(r0, _mm_shuffle_ps(r1, r2, _MM_SHUFFLE(1, 1, 2, 2)), _MM_SHUFFLE(2, 0, 3, 0));
-  v[1] = _mm_shuffle_ps(_mm_shuffle_ps(r0, r1, _MM_SHUFFLE(0, 0, 1, 1)),
-                        _mm_shuffle_ps(r1, r2, _MM_SHUFFLE(2, 2, 3, 3)), _MM_SHUFFLE(2, 0, 2, 0));
-  v[2] = _mm_shuffle_ps(_mm_shuffle_ps(r0, r1, _MM_SHUFFLE(1, 1, 2, 2)), r2, _MM_SHUFFLE(3, 0, 2, 0));
-}
-inline void pack3(float* p, const __m128 (&o)[3]) {
-  const auto even = [](__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)); };
-  _mm_storeu_ps(p, even(_mm_shuffle_ps(o[0], o[1], _MM_SHUFFLE(0, 0, 0, 0)),
-                        _mm_shuffle_ps(o[2], o[0], _MM_SHUFFLE(1, 1, 0, 0))));
-  _mm_storeu_ps(p + 4, even(_mm_shuffle_ps(o[1], o[2], _MM_SHUFFLE(1, 1, 1, 1)),
-                            _mm_shuffle_ps(o[0], o[1], _MM_SHUFFLE(2, 2, 2, 2))));
-  _mm_storeu_ps(p + 8, even(_mm_shuffle_ps(o[2], o[0], _MM_SHUFFLE(3, 3, 2, 2)),
-                            _mm_shuffle_ps(o[1], o[2], _MM_SHUFFLE(3, 3, 3, 3))));
-}
-
 template <class V>
 constexpr bool isPackedFloatArray = std::is_same_v<V, StridedArray<const float, true>> ||
                                     std::is_same_v<V, StridedArray<float, true>>;

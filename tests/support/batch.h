@@ -56,6 +56,8 @@ class Batch {
     for (int i = 0; i < rows; ++i)
       for (int j = 0; j < cols; ++j)
         elems_.push_back(reinterpret_cast<T*>(base_ + size_t(i) * s1 + size_t(j) * s2 - elemShift));
+    elemsAfterOne_.assign(1, nullptr);
+    elemsAfterOne_.insert(elemsAfterOne_.end(), elems_.begin(), elems_.end());
   }
 
   int rows() const { return rows_; }
@@ -80,7 +82,10 @@ class Batch {
   T* const* list() { return list_.data(); }
   static constexpr int listShift = 2 * sizeof(T);
   // _P description: elems()[i*cols + j] + elemShift + n*s0 is element (i, j) of object n.
-  T* const* elems() { return elems_.data(); }
+  // The list lies where the allocator put it, or, with `elemsOneOn`, one entry
+  // further (8 bytes off that alignment).
+  T* const* elems() const { return elemsOneOn ? elemsAfterOne_.data() + 1 : elems_.data(); }
+  bool elemsOneOn = false;
   static constexpr int elemShift = 3 * sizeof(T);
 
   void fillRandom(uint32_t seed, double lo = -4.0, double hi = 4.0) {
@@ -132,7 +137,7 @@ class Batch {
   int rows_, cols_, count_;
   std::vector<unsigned char> bytes_;
   unsigned char* base_ = nullptr;
-  std::vector<T*> list_, elems_;
+  std::vector<T*> list_, elems_, elemsAfterOne_;
 };
 
 // Bitwise equality of two value lists, so NaN and -0 compare as stored.

@@ -155,6 +155,21 @@ T pairSum(const std::vector<T>& t) {
   return t.size() == 4 ? s : s + t[4];
 }
 
+// The split sum peeled on the address x of elements of e bytes (x = 0: the
+// plain split sum): two 16-byte accumulators over whole blocks of eight after
+// the peel, whose plain sum starts lane 0, then the rest one by one; plain
+// below peel + 8 terms or when x is no multiple of e.
+template <class T>
+T split(const std::vector<T>& p, uintptr_t x = 0, size_t e = sizeof(T)) {
+  const size_t K = p.size(), lanes = 16 / sizeof(T), r = x % 16, peel = r ? (16 - r) / e : 0;
+  if (r % e || K < peel + 8) return fromZero(p);
+  const size_t q = K - (K - peel) % 8;
+  T acc[2][4] = {{fromZero(p, 0, peel)}}, s[4];  // indexed: a choice of two arrays is a temporary at -O0
+  for (size_t k = peel; k < q; ++k) acc[(k - peel) / lanes % 2][(k - peel) % lanes] += p[k];
+  for (size_t l = 0; l < 4; ++l) s[l] = acc[0][l] + acc[1][l];
+  return std::accumulate(p.begin() + q, p.end(), lanes == 4 ? (s[0] + s[1]) + (s[2] + s[3]) : s[0] + s[1]);
+}
+
 // Mul by a vector and Gaxpy: op(A) of M x K (stored K x M when transposed), x
 // of K, z of M (Gaxpy), dst of M; which of A, x, z, dst are arrays.
 struct VecExport {
