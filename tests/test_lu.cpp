@@ -317,7 +317,7 @@ TEST(LUDecomp, FactorsInEveryDescription64f) { sweepDecomp<Qel64f>(); }
 template <class T>
 void sweepSolve() {
   for (Case c : {Case{MV, Std, 1}, {MV, Ptr, 1}, {MVA, Std, 1}, {MVA, Std, 2}, {MVA, Std, 4},
-                 {MVA, List, 4}, {MVA, Ptr, 4}, {MAVA, Std, 4}, {MAVA, List, 4}, {MAVA, Ptr, 4}})
+                 {MVA, List, 4}, {MVA, Ptr, 4}, {MAVA, Std, 4}, {MAVA, Std, 19}, {MAVA, List, 4}, {MAVA, Ptr, 4}})
     for (Form form : qt::allForms())
       for (int n : kSizes) {
         SCOPED_TRACE(testing::Message() << "shape " << c.shape << " desc " << c.desc << " count "

@@ -251,6 +251,32 @@ inline void productObject(const O1& a, const O2& b, const OD& d) {
   else productRows<T, N>(a, readRows<T, N>(b), d);
 }
 
+// Packed 3x3 Qel32f objects times one matrix: the array is one run of 3-element
+// rows, each times op2, and four rows go at once, row r in lane r, with the
+// same ((a0 b0j + a1 b1j) + a2 b2j) as one row alone. Runs while whole groups of
+// four objects remain; returns the number of objects done.
+template <class A, class B, class D>
+inline int packedRowQuads(const A& a, const B& b, const D& d, int count) {
+  if (a.s1 != 12 || a.s0 != 36 || d.s1 != 12 || d.s0 != 36 || !independentObjects(a, {3, 3}, d, {3, 3}, count))
+    return 0;
+  __m128 bs[3][3];
+  unroll<3>([&](auto k) { unroll<3>([&](auto j) { bs[k][j] = _mm_set1_ps(b.at(k, j)); }); });
+  const float* p = a.base;
+  float* q = d.base;
+  const int groups = count / 4;
+  // Four objects are twelve rows: three steps of four rows.
+  for (int g = 0; g < groups * 3; ++g, p += 12, q += 12) {
+    __m128 x[3], y[3];
+    unpack3(p, x);
+    unroll<3>([&](auto j) {
+      y[j] = _mm_add_ps(_mm_add_ps(_mm_mul_ps(x[0], bs[0][j]), _mm_mul_ps(x[1], bs[1][j])),
+                        _mm_mul_ps(x[2], bs[2][j]));
+    });
+    pack3(q, y);
+  }
+  return groups * 4;
+}
+
 // Each object in order. A single operand is read once ahead of the loop and
 // kept; all of op2 is read before the first store of an object. Flattened: the
 // straight-line code only exists once every helper is inlined.
@@ -261,7 +287,11 @@ template <int N, class A, class B, class D>
     productRows<T, N>(readScalars<T, N>(a.object(0)), readRows<T, N>(b.object(0)), d.object(0));
   } else if constexpr (!B::isArray) {
     const RowBlock<T, N> held = readRows<T, N>(b.object(0));
-    for (int n = 0; n < count; ++n) productRows<T, N>(a.object(n), held, d.object(n));
+    int n = 0;
+    if constexpr (N == 3 && std::is_same_v<T, float> && std::is_same_v<A, StridedArray<const float, true>> &&
+                  std::is_same_v<D, StridedArray<float, true>>)
+      n = packedRowQuads(a, readScalars<T, N>(b.object(0)), d, count);
+    for (; n < count; ++n) productRows<T, N>(a.object(n), held, d.object(n));
   } else if constexpr (!A::isArray) {
     const ScalarBlock<T, N> held = readScalars<T, N>(a.object(0));
     for (int n = 0; n < count; ++n) productObject<T, N>(held, b.object(n), d.object(n));
