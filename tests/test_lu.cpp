@@ -280,7 +280,7 @@ struct Case { Shape shape; Desc desc; int count; };
 // ------------------------------------------------------------------ tests
 template <class T>
 void sweepDecomp() {
-  for (Case c : {Case{M, Std, 1}, {M, Ptr, 1}, {MA, Std, 5}, {MA, List, 5}, {MA, Ptr, 5}})
+  for (Case c : {Case{M, Std, 1}, {M, Ptr, 1}, {MA, Std, 5}, {MA, Std, 7}, {MA, List, 5}, {MA, Ptr, 5}})
     for (Form form : qt::allForms())
       for (int n : kSizes) {
         SCOPED_TRACE(testing::Message() << "shape " << c.shape << " desc " << c.desc << " form "

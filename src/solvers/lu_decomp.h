@@ -334,10 +334,11 @@ QelStatus luObjects(S src, I index, D dst, int size, int count) {
     constexpr int N = decltype(order)::value;
     int n = 0;
     if (independentObjects(src, {N, N}, dst, {N, N}, count)) {
-      // Qel64f registers hold two objects: two registers of them go together.
+      // Qel64f registers hold two objects: three registers of them go together,
+      // so that one group's divisions run while the others wait.
       if constexpr (rowsContiguous<typename S::Object> && rowsContiguous<typename D::Object>) {
         using T = std::remove_const_t<typename D::Object::Elem>;
-        constexpr int Q = std::is_same_v<T, Qel32f> ? 1 : 2;
+        constexpr int Q = std::is_same_v<T, Qel32f> ? 1 : 3;
         constexpr int G = Q * RowRegs<T, N>::L;
         for (; n + G <= count; n += G)
           if (!luLanes<N, Q>(src, index, dst, n))
