@@ -122,7 +122,10 @@ void libxsmmLoop(benchmark::State& state) {
   using Kernel = void (*)(const T*, const T*, T*, ...);
   Kernel kernel;
   // The code it generates for this machine may use AVX; the SSE code is the
-  // fair peer of a library built for SSE4.1.
+  // fair peer of a library built for SSE4.1. The library must be initialised
+  // first: its first dispatch initialises it and resets the target to the
+  // machine's, and a kernel once generated stays in its registry.
+  libxsmm_init();
   if (std::getenv("QELM_BENCH_XSMM_NATIVE") == nullptr) libxsmm_set_target_arch("sse4");
   if constexpr (std::is_same_v<T, float>)
     kernel = libxsmm_smmdispatch(N, N, N, nullptr, nullptr, nullptr, &alpha, &beta, nullptr, nullptr);
