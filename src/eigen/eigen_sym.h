@@ -28,10 +28,14 @@ template <class T>
 inline T root(T x) {
   return T(std::sqrt(double(x)));
 }
-// |x| <= eps and x > eps, in 64 bits.
+// |x| <= eps, |x| > eps and x > eps, in 64 bits. A NaN is neither small nor large.
 template <class T>
 inline bool small(T x) {
   return std::fabs(double(x)) <= double(kEps<T>);
+}
+template <class T>
+inline bool large(T x) {
+  return std::fabs(double(x)) > double(kEps<T>);
 }
 template <class T>
 inline bool aboveEps(T x) {
@@ -98,7 +102,7 @@ QelStatus symOrderTwo(const S& src, T* w, T* values, const Q& q) {
       const T ct = -tb / cs;
       s1 = T(1) / root(ct * ct + T(1));
       c1 = ct * s1;
-    } else if (!small(tb)) {
+    } else if (large(tb)) {
       const T tn = -cs / tb;
       c1 = T(1) / root(tn * tn + T(1));
       s1 = tn * c1;
@@ -132,12 +136,12 @@ void symReduce(T* w, T* v, const Q& q, int size) {
     const T alpha = W(k, k - 1);
     // The vectors kernels leave a column that is already reflected alone.
     if constexpr (hasVectors<Q>)
-      if (small(norm - alpha)) continue;
+      if (!large(norm - alpha)) continue;
     T h;
     if (aboveEps(alpha)) {
       v[k] = alpha + norm;
       h = (s + alpha * norm) * T(2);
-    } else if (!small(alpha)) {
+    } else if (large(alpha)) {
       v[k] = alpha - norm;
       h = (s - alpha * norm) * T(2);
     } else {
@@ -264,7 +268,7 @@ QelStatus sweepUp(T* w, const Q& q, int size) {
   for (int l = 0; l < n; ++l) {
     for (int iter = 0;; ++iter) {
       int m = l;
-      while (m < n - 1 && !small(W(m + 1, m) * T(0.5))) ++m;
+      while (m < n - 1 && large(W(m + 1, m) * T(0.5))) ++m;
       if (m == l) break;
       if (iter == 30) return qelStatusNoConvergence;
       T g = shifted(W(l + 1, l + 1), W(l, l), W(l + 1, l), W(m, m));
