@@ -25,7 +25,7 @@ QelStatus symFront(const char* order, S src, T* buffer, Q vectors, T* dstValues,
 
   auto job = makeJob(
       [size, sortFirst](int share, void* w, auto s, auto q, auto v) {
-        return symObjects<0>(s, w, q, v, size, share, sortFirst);
+        return symArray(s, w, q, v, size, share, sortFirst);
       },
       src, vectors, values);
   if constexpr (!S::isArray) {

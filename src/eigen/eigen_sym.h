@@ -364,4 +364,20 @@ QelStatus symObjects(const S& src, void* buffer, const Q& q, const V& values, in
   return qelStatusOk;
 }
 
+// Contiguous arrays of orders 3 to 6 run with the order fixed at compile time,
+// so the loops over rows and columns unroll; the arithmetic is the same.
+template <class S, class Q, class V>
+QelStatus symArray(const S& src, void* buffer, const Q& q, const V& values, int size, int count, bool sortFirst) {
+  if constexpr (S::isArray && S::hasStride2 && std::is_same_v<S, typename S::Contiguous>) {
+    switch (size) {
+      case 3: return symObjects<3>(src, buffer, q, values, size, count, sortFirst);
+      case 4: return symObjects<4>(src, buffer, q, values, size, count, sortFirst);
+      case 5: return symObjects<5>(src, buffer, q, values, size, count, sortFirst);
+      case 6: return symObjects<6>(src, buffer, q, values, size, count, sortFirst);
+      default: break;
+    }
+  }
+  return symObjects<0>(src, buffer, q, values, size, count, sortFirst);
+}
+
 }  // namespace qel::eigen
