@@ -132,11 +132,11 @@ void symReduce(T* w, T* v, const Q& q, int size) {
     T s = 0;
     for (int i = k; i < n; ++i) s = s + W(i, k - 1) * W(i, k - 1);
     const T norm = root(s);
-    for (int i = k + 1; i < n; ++i) v[i] = W(i, k - 1);
     const T alpha = W(k, k - 1);
-    // The vectors kernels leave a column that is already reflected alone.
+    // The vectors kernels leave a column that is already reflected alone, v unformed.
     if constexpr (hasVectors<Q>)
       if (!large(norm - alpha)) continue;
+    for (int i = k + 1; i < n; ++i) v[i] = W(i, k - 1);
     T h;
     if (aboveEps(alpha)) {
       v[k] = alpha + norm;
