@@ -298,6 +298,24 @@ TEST(EigenSym, SmallEigenvaluesAreRefusedIn32f) {
   }
 }
 
+// Downward, the values kernels multiply in W[m][m] wherever a search stops,
+// finished or not: a zero met on the way refuses a regular matrix (det 1/16),
+// and extra factors let an exactly singular one (det 0) through, while the
+// vectors kernels test the determinant.
+TEST(EigenSym, TheValuesProductIsNotTheDeterminant) {
+  const std::vector<float> regular = {-1, 0, 0, 0, 0, -0.25f, 0, -0.25f, 0.5f},
+                           singular = {-1, -1, 0, 0.5f, -1, -1, -0.5f, 0.5f, 0, -0.5f, -0.75f, -0.75f,
+                                       0.5f, 0.5f, -0.75f, -0.25f};
+  for (const auto& m : {regular, singular})
+    for (Call c : kCalls) {
+      const int n = m.size() == 9 ? 3 : 4;
+      Batch<float> a(n, n, 1);
+      for (int k = 0; k < n * n; ++k) a.at(0, k / n, k % n) = m[k];
+      Out<float> out(n, 1);
+      EXPECT_EQ(run(c, a, out), c.vectors == (n == 3) ? qelStatusOk : qelStatusSingular) << n << " " << c.vectors;
+    }
+}
+
 // A NaN on the subdiagonal never splits: the downward sweep (first diagonal
 // element the larger) gives up after its passes, the upward one never starts.
 TEST(EigenSym, NaNSubdiagonalExhaustsTheDownwardSweep) {
