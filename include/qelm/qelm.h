@@ -2010,6 +2010,73 @@ QelStatus qelmLComb_vava_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int 
                                QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0, Qel64f val2,
                                QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int len, int count);
 
+/* ---- Symmetric eigenproblems. */
+
+/* EigenValuesSym: every eigenvalue of a real symmetric matrix of order `size`,
+ * by a Householder reduction to tridiagonal form and an implicitly shifted QL/QR
+ * iteration, at most 30 passes per eigenvalue. dstValues holds `size` values per
+ * matrix (dstValues + n*size for matrix n of an array), in descending order from
+ * order 3 on; order 2 gives its closed-form pair unsorted (ascending for a
+ * clearly negative trace). buffer is scratch of size*size elements, row after
+ * row; its contents on return are meaningless. A matrix whose product of
+ * eigenvalues is at most the element type's epsilon in magnitude answers
+ * qelStatusSingular, whatever its scale; 30 passes without a split answer
+ * qelStatusNoConvergence. An array stops at its first failing matrix.
+ * EigenValuesVectorsSym also gives the unit eigenvector of dstValues[j] in
+ * column j of dstVectors, with no sign normalisation. */
+QelStatus qelmEigenValuesSym_m_32f(const Qel32f* src, int srcStride1, int srcStride2, Qel32f* buffer,
+                                   Qel32f* dstValues, int size);
+QelStatus qelmEigenValuesSym_m_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32f* buffer,
+                                     Qel32f* dstValues, int size);
+QelStatus qelmEigenValuesSym_ma_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2,
+                                    Qel32f* buffer, Qel32f* dstValues, int size, int count);
+QelStatus qelmEigenValuesSym_ma_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1,
+                                      int srcStride2, Qel32f* buffer, Qel32f* dstValues, int size, int count);
+QelStatus qelmEigenValuesSym_ma_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0,
+                                      Qel32f* buffer, Qel32f* dstValues, int size, int count);
+QelStatus qelmEigenValuesVectorsSym_m_32f(const Qel32f* src, int srcStride1, int srcStride2, Qel32f* buffer,
+                                          Qel32f* dstVectors, int dstStride1, int dstStride2,
+                                          Qel32f* dstValues, int size);
+QelStatus qelmEigenValuesVectorsSym_m_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32f* buffer,
+                                            QEL_DST_LIST(Qel32f) dstVectors, int dstRoiShift,
+                                            Qel32f* dstValues, int size);
+QelStatus qelmEigenValuesVectorsSym_ma_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2,
+                                           Qel32f* buffer, Qel32f* dstVectors, int dstStride0, int dstStride1,
+                                           int dstStride2, Qel32f* dstValues, int size, int count);
+QelStatus qelmEigenValuesVectorsSym_ma_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1,
+                                             int srcStride2, Qel32f* buffer, QEL_DST_LIST(Qel32f) dstVectors,
+                                             int dstRoiShift, int dstStride1, int dstStride2,
+                                             Qel32f* dstValues, int size, int count);
+QelStatus qelmEigenValuesVectorsSym_ma_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0,
+                                             Qel32f* buffer, QEL_DST_LIST(Qel32f) dstVectors, int dstRoiShift,
+                                             int dstStride0, Qel32f* dstValues, int size, int count);
+QelStatus qelmEigenValuesSym_m_64f(const Qel64f* src, int srcStride1, int srcStride2, Qel64f* buffer,
+                                   Qel64f* dstValues, int size);
+QelStatus qelmEigenValuesSym_m_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, Qel64f* buffer,
+                                     Qel64f* dstValues, int size);
+QelStatus qelmEigenValuesSym_ma_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2,
+                                    Qel64f* buffer, Qel64f* dstValues, int size, int count);
+QelStatus qelmEigenValuesSym_ma_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1,
+                                      int srcStride2, Qel64f* buffer, Qel64f* dstValues, int size, int count);
+QelStatus qelmEigenValuesSym_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0,
+                                      Qel64f* buffer, Qel64f* dstValues, int size, int count);
+QelStatus qelmEigenValuesVectorsSym_m_64f(const Qel64f* src, int srcStride1, int srcStride2, Qel64f* buffer,
+                                          Qel64f* dstVectors, int dstStride1, int dstStride2,
+                                          Qel64f* dstValues, int size);
+QelStatus qelmEigenValuesVectorsSym_m_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, Qel64f* buffer,
+                                            QEL_DST_LIST(Qel64f) dstVectors, int dstRoiShift,
+                                            Qel64f* dstValues, int size);
+QelStatus qelmEigenValuesVectorsSym_ma_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2,
+                                           Qel64f* buffer, Qel64f* dstVectors, int dstStride0, int dstStride1,
+                                           int dstStride2, Qel64f* dstValues, int size, int count);
+QelStatus qelmEigenValuesVectorsSym_ma_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1,
+                                             int srcStride2, Qel64f* buffer, QEL_DST_LIST(Qel64f) dstVectors,
+                                             int dstRoiShift, int dstStride1, int dstStride2,
+                                             Qel64f* dstValues, int size, int count);
+QelStatus qelmEigenValuesVectorsSym_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0,
+                                             Qel64f* buffer, QEL_DST_LIST(Qel64f) dstVectors, int dstRoiShift,
+                                             int dstStride0, Qel64f* dstValues, int size, int count);
+
 #ifdef __cplusplus
 }
 #endif
