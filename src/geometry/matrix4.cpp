@@ -1,8 +1,11 @@
 // The fixed 4x4 Qel32f routines: product, transposed product, determinant,
-// transpose, identity and the identity test. Every one reads its whole operand
+// inverse, transpose, identity and the identity test. Every one reads its whole operand
 // before it stores, so a destination may be a source.
 #include "../frame/export.h"
+#include "../solvers/invert4x4.h"
 #include "matrix4.h"
+
+#include <cmath>
 
 using namespace qel::geo;
 
@@ -55,5 +58,21 @@ QELM_API QelStatus qelmIsIdentity_m4_32f(const Qel32f* src, Qel32s* dst) {
                                  _mm_and_ps(_mm_cmpeq_ps(m.r[2], lanes<1, 1, 0, 1>(one)),
                                             _mm_cmpeq_ps(m.r[3], lanes<1, 1, 1, 0>(one))));
   *dst = _mm_movemask_ps(same) != 0 ? 1 : 0;
+  return qelStatusOk;
+}
+
+// The shared 4x4 cofactors; singular when |det| is below 2^-119 (128 units of
+// the smallest normal), so a NaN determinant goes on. The reciprocal is the
+// refined estimate.
+QELM_API QelStatus qelmInvert_m4_32f(const Qel32f* src, Qel32f* dstDet, Qel32f* dst) {
+  const Rows4 m = loadRows(src);
+  const qel::Cofactors4 c = qel::cofactors4x4(m.r[0], m.r[1], m.r[2], m.r[3]);
+  const float det = _mm_cvtss_f32(c.det);
+  if (std::fabs(det) < 0x1p-119f) {
+    if (dstDet) *dstDet = 0.0f;
+    return qelStatusSingular;
+  }
+  if (dstDet) *dstDet = det;
+  qel::storeInverse4x4_32f(c, qel::reciprocalEstimate32f(det), dst);
   return qelStatusOk;
 }

@@ -7,6 +7,7 @@
 // the single form vector by vector, strides trusted as given.
 #include "../frame/export.h"
 #include "../frame/operands.h"
+#include "../solvers/invert4x4.h"
 #include "matrix4.h"
 #include "transforms.h"
 
@@ -151,6 +152,63 @@ QELM_API QelStatus qelmProject_m4v3a_32f(const Qel32f* projection, const Qel32f*
   const Viewport port{viewWidth, viewHeight, minZ, maxZ};
   return overArray([&](const float* s, float* d) { port.toScreen(plainPoint3(chain, s), d); }, src, srcStride, dst,
                    dstStride, count);
+}
+
+namespace {
+
+// The inverse of (world view) projection: the product in Qel32f, inverted in
+// Qel64f by the shared 4x4 core and rounded back.
+QelStatus chainInverse(const float* projection, const float* view, const float* world, Rows4& inverse) {
+  alignas(16) float p[16];
+  storeRows(p, product(product(loadRows(world), loadRows(view)), loadRows(projection)));
+  double wide[16], inv[16];
+  for (int i = 0; i < 16; ++i) wide[i] = p[i];
+  if (QelStatus st = invert4x4_64f(wide, inv)) return st;
+  for (int i = 0; i < 16; ++i) p[i] = static_cast<float>(inv[i]);
+  inverse = loadRows(p);
+  return qelStatusOk;
+}
+
+// Screen to normalised device coordinates: x and y into -1..1 (y upwards), depth
+// into 0..1.
+struct Unviewport {
+  float viewWidth, viewHeight, minZ, maxZ;
+  void toDevice(const float* s, float* d) const {
+    const float x = s[0], y = s[1], z = s[2];
+    d[0] = (2.0f * x) / viewWidth - 1.0f;
+    d[1] = (-2.0f * y) / viewHeight + 1.0f;
+    d[2] = (z - minZ) / (maxZ - minZ);
+  }
+};
+
+}  // namespace
+
+// A singular chain leaves the normalised coordinates in dst.
+QELM_API QelStatus qelmUnproject_m4v3_32f(const Qel32f* projection, const Qel32f* view, const Qel32f* world,
+                                          const Qel32f* src, Qel32f viewWidth, Qel32f viewHeight, Qel32f minZ,
+                                          Qel32f maxZ, Qel32f* dst) {
+  Unviewport{viewWidth, viewHeight, minZ, maxZ}.toDevice(src, dst);
+  Rows4 inverse;
+  if (QelStatus st = chainInverse(projection, view, world, inverse)) return st;
+  Lanes<float>::store<3>(dst, coordPoint3(inverse, dst));
+  return qelStatusOk;
+}
+
+// The chain is inverted once; a singular one leaves every vector untouched.
+QELM_API QelStatus qelmUnproject_m4v3a_32f(const Qel32f* projection, const Qel32f* view, const Qel32f* world,
+                                           const Qel32f* src, int srcStride, Qel32f viewWidth, Qel32f viewHeight,
+                                           Qel32f minZ, Qel32f maxZ, Qel32f* dst, int dstStride, int count) {
+  if (count < 1) return qelStatusOk;
+  Rows4 inverse;
+  if (QelStatus st = chainInverse(projection, view, world, inverse)) return st;
+  const Unviewport port{viewWidth, viewHeight, minZ, maxZ};
+  return overArray(
+      [&](const float* s, float* d) {
+        float n[3];
+        port.toDevice(s, n);
+        Lanes<float>::store<3>(d, coordPoint3(inverse, n));
+      },
+      src, srcStride, dst, dstStride, count);
 }
 
 // 131 vectors (6 count above 784) are the first to reach the driver.
