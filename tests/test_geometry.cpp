@@ -1,0 +1,320 @@
+// Geometry on fixed sizes, all 87 exports: one table per group (small vectors,
+// builders, transforms, 4x4 routines). Each result is checked bit for bit
+// against a float model of the order of operations written here from the
+// routine's definition, and within a few units in the last place against a
+// long double formula (the builders against the textbook column-vector forms,
+// transposed); operands lie 16-byte aligned and 4 bytes past it, outputs are
+// fenced by canaries, array strides leave gaps.
+#include <gtest/gtest.h>
+
+#include <cfloat>
+#include <cmath>
+#include <cstring>
+#include <functional>
+#include <random>
+#include <type_traits>
+
+#include "pinned_core.h"
+#include "qelm/qelm.h"
+
+namespace {
+
+using LD = long double;
+constexpr uint32_t kCanary = 0xA5A5A5A5u;
+
+// n floats inside a canary-filled block, 16-byte aligned or 4 bytes past it.
+struct Slot {
+  alignas(16) float room[48];
+  float* p;
+  int n;
+  Slot(int count, bool off4, const float* init = nullptr) : p(room + 8 + off4), n(count) {
+    std::memset(room, 0xA5, sizeof room);
+    if (init) std::memcpy(p, init, sizeof(float) * n);
+  }
+  bool fenced() const {
+    for (const float* q = room; q < room + 48; ++q)
+      if ((q < p || q >= p + n) && std::memcmp(q, &kCanary, 4) != 0) return false;
+    return true;
+  }
+  float operator[](int i) const { return p[i]; }
+};
+
+bool sameBits(float a, float b) { return std::memcmp(&a, &b, 4) == 0; }
+// |got - want| within `units` float epsilons of `scale` (the size of the terms).
+::testing::AssertionResult close(float got, LD want, LD scale, int units = 8) {
+  if (std::fabs(got - want) <= units * LD(FLT_EPSILON) * (scale + LD(FLT_MIN))) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << got << " vs " << double(want) << " (scale " << double(scale) << ")";
+}
+
+std::mt19937 rng(2011);
+float uniform(float lo = -2, float hi = 2) { return std::uniform_real_distribution<float>(lo, hi)(rng); }
+
+// ============================================================== small vectors
+
+enum VOp { Add, Sub, MulC, Dot, Cross, LenSqr, Len, Max, Min, Normalize, Linear, Bary, Hermite, CatmullRom };
+
+// The definition of each routine in T: float gives the library's bits (the
+// order of every operation as defined, root and Hermite weights in 64 bits),
+// long double the reference. Returns the number of elements written.
+template <class T>
+int vectorModel(VOp op, int n, const T* a, const T* b, const T* c, const T* e, T s, T s2, T* d) {
+  using W = std::conditional_t<std::is_same_v<T, float>, double, LD>;
+  auto root = [](T x) { return T(std::sqrt(W(x))); };
+  auto dot = [&](const T* x, const T* y) { T t = x[0] * y[0]; for (int i = 1; i < n; ++i) t = t + x[i] * y[i]; return t; };
+  auto hermite = [&](const T* p0, const T* t0, const T* p1, const T* t1) {
+    const T q = s * s;
+    const W q3 = W(q) * s, w1 = T(((s - W(q)) - q) + q3), w2 = T((q3 - 3 * W(q)) + q3), w3 = T(q3 - q);
+    for (int i = 0; i < n; ++i) d[i] = (p0[i] - p1[i]) * T(w2) + ((p0[i] + t0[i] * T(w1)) + t1[i] * T(w3));
+    return n;
+  };
+  switch (op) {
+    case Add: for (int i = 0; i < n; ++i) d[i] = a[i] + b[i]; return n;
+    case Sub: for (int i = 0; i < n; ++i) d[i] = a[i] - b[i]; return n;
+    case MulC: for (int i = 0; i < n; ++i) d[i] = a[i] * s; return n;
+    case Dot: d[0] = dot(a, b); return 1;
+    case LenSqr: d[0] = dot(a, a); return 1;
+    case Len: d[0] = root(dot(a, a)); return 1;
+    case Max: for (int i = 0; i < n; ++i) d[i] = a[i] > b[i] ? a[i] : b[i]; return n;
+    case Min: for (int i = 0; i < n; ++i) d[i] = a[i] < b[i] ? a[i] : b[i]; return n;
+    case Normalize: {
+      const T l = root(n == 4 ? ((a[1] * a[1] + a[2] * a[2]) + a[3] * a[3]) + a[0] * a[0] : dot(a, a));
+      for (int i = 0; i < n; ++i) d[i] = a[i] / l;
+      return n;
+    }
+    case Linear: for (int i = 0; i < n; ++i) d[i] = a[i] + (b[i] - a[i]) * s; return n;
+    case Bary: for (int i = 0; i < n; ++i) d[i] = ((b[i] - a[i]) * s + a[i]) + (c[i] - a[i]) * s2; return n;
+    case Hermite: return hermite(a, b, c, e);
+    case CatmullRom: {
+      T t0[4], t1[4];
+      for (int i = 0; i < n; ++i) t0[i] = (c[i] - a[i]) * T(0.5), t1[i] = (e[i] - b[i]) * T(0.5);
+      return hermite(b, t0, c, t1);
+    }
+    case Cross: {
+      if (n == 2) return d[0] = a[0] * b[1] - a[1] * b[0], 1;
+      if (n == 3) {
+        for (int i = 0; i < 3; ++i) d[i] = a[(i + 1) % 3] * b[(i + 2) % 3] - a[(i + 2) % 3] * b[(i + 1) % 3];
+        return 3;
+      }
+      auto m = [&](int i, int j) { return b[i] * c[j] - b[j] * c[i]; };  // 4D: the product of a, b, c
+      d[0] = (m(2, 3) * a[1] - m(1, 3) * a[2]) + m(1, 2) * a[3];
+      d[1] = T(0) - ((m(2, 3) * a[0] - m(0, 3) * a[2]) + m(0, 2) * a[3]);
+      d[2] = (m(1, 3) * a[0] - m(0, 3) * a[1]) + m(0, 1) * a[3];
+      d[3] = T(0) - ((m(1, 2) * a[0] - m(0, 2) * a[1]) + m(0, 1) * a[2]);
+      return 4;
+    }
+  }
+  return 0;
+}
+
+using VCall = std::function<QelStatus(const float*, const float*, const float*, const float*, float, float, float*)>;
+struct VExp {
+  const char* name;
+  VOp op;
+  int n;
+  VCall call;
+};
+#define V_AB(OP, F, N) VExp{#F "_v" #N, OP, N, [](auto a, auto b, auto, auto, float, float, float* d) { return qelm##F##_v##N##_32f(a, b, d); }}
+#define V_A(OP, F, N) VExp{#F "_v" #N, OP, N, [](auto a, auto, auto, auto, float, float, float* d) { return qelm##F##_v##N##_32f(a, d); }}
+#define V_ROW(N)                                                                                                 \
+  V_AB(Add, Add, N), V_AB(Sub, Sub, N), V_AB(Dot, DotProduct, N), V_AB(Max, Max, N), V_AB(Min, Min, N),            \
+      V_A(LenSqr, LenSqr, N), V_A(Len, Len, N), V_A(Normalize, Normalize, N),                                      \
+      VExp{"MulC_v" #N, MulC, N, [](auto a, auto, auto, auto, float s, float, float* d) { return qelmMulC_v##N##_32f(a, s, d); }}, \
+      VExp{"InterpolationLinear_v" #N, Linear, N, [](auto a, auto b, auto, auto, float s, float, float* d) { return qelmInterpolationLinear_v##N##_32f(a, b, s, d); }}, \
+      VExp{"BaryCentric_v" #N, Bary, N, [](auto a, auto b, auto c, auto, float s, float t, float* d) { return qelmBaryCentric_v##N##_32f(a, b, c, s, t, d); }}, \
+      VExp{"Hermite_v" #N, Hermite, N, [](auto a, auto b, auto c, auto e, float s, float, float* d) { return qelmHermite_v##N##_32f(a, b, c, e, s, d); }}, \
+      VExp{"InterpolationCatmullRom_v" #N, CatmullRom, N, [](auto a, auto b, auto c, auto e, float s, float, float* d) { return qelmInterpolationCatmullRom_v##N##_32f(a, b, c, e, s, d); }}
+const std::vector<VExp> kVectors = {
+    V_ROW(2), V_ROW(3), V_ROW(4), V_AB(Cross, CrossProduct, 2), V_AB(Cross, CrossProduct, 3),
+    VExp{"CrossProduct_v4", Cross, 4, [](auto a, auto b, auto c, auto, float, float, float* d) { return qelmCrossProduct_v4_32f(a, b, c, d); }}};
+
+TEST(Geometry, SmallVectorsAgainstTheirOrderAndLongDouble) {
+  ASSERT_EQ(kVectors.size(), 42u);
+  for (const VExp& e : kVectors)
+    for (int round = 0; round < 40; ++round) {
+      float src[4][4], sc[2] = {uniform(), uniform()};
+      for (auto& v : src) for (float& x : v) x = uniform();
+      if (round == 1) std::memcpy(src[1], src[0], sizeof src[0]);  // equal elements for Max, Min
+      float want[4];
+      const int outs = vectorModel<float>(e.op, e.n, src[0], src[1], src[2], src[3], sc[0], sc[1], want);
+      LD wide[4][4], ref[4];
+      for (int k = 0; k < 16; ++k) wide[k / 4][k % 4] = src[k / 4][k % 4];
+      vectorModel<LD>(e.op, e.n, wide[0], wide[1], wide[2], wide[3], sc[0], sc[1], ref);
+      for (bool off4 : {false, true}) {
+        Slot a(4, off4, src[0]), b(4, !off4, src[1]), c(4, off4, src[2]), d4(4, off4, src[3]), out(outs, off4);
+        ASSERT_EQ(e.call(a.p, b.p, c.p, d4.p, sc[0], sc[1], out.p), qelStatusOk) << e.name;
+        EXPECT_TRUE(out.fenced()) << e.name << " wrote past its " << outs << " elements";
+        for (int i = 0; i < outs; ++i) {
+          EXPECT_TRUE(sameBits(out[i], want[i])) << e.name << " " << i << ": " << out[i] << " vs " << want[i];
+          EXPECT_TRUE(close(out[i], ref[i], e.op == Normalize || e.op == Len ? std::fabs(ref[i]) : 64)) << e.name << " " << i;
+        }
+      }
+      if (e.op != Cross && e.op != Dot && e.op != LenSqr && e.op != Len) {  // dst may be src1
+        float inPlace[4];
+        std::memcpy(inPlace, src[0], sizeof inPlace);
+        e.call(inPlace, src[1], src[2], src[3], sc[0], sc[1], inPlace);
+        EXPECT_EQ(std::memcmp(inPlace, want, 4 * outs), 0) << e.name << " in place";
+      }
+    }
+}
+
+TEST(Geometry, SmallVectorEdges) {
+  const float nan = NAN, x[3] = {nan, 1, 2}, y[3] = {0, nan, 5}, z[4] = {}, p[4][3] = {{1, 2, 3}, {4, 5, 6}, {7, 8, 9}, {-1, -2, -3}};
+  float d[4];
+  for (auto f : {qelmMax_v3_32f, qelmMin_v3_32f}) {  // a NaN on either side: src2's element
+    f(x, y, d);
+    EXPECT_EQ(d[0], 0.0f); EXPECT_TRUE(std::isnan(d[1])); EXPECT_EQ(d[2], f == qelmMax_v3_32f ? 5.0f : 2.0f);
+  }
+  EXPECT_EQ(qelmNormalize_v4_32f(z, d), qelStatusOk);
+  for (float v : d) EXPECT_TRUE(std::isnan(v));
+  const float pair[2] = {3, 4};
+  qelmLen_v2_32f(pair, d); EXPECT_EQ(d[0], 5.0f);
+  for (float s : {0.0f, 1.0f}) {
+    qelmHermite_v3_32f(p[0], p[1], p[2], p[3], s, d);
+    EXPECT_EQ(std::memcmp(d, p[s == 0 ? 0 : 2], 12), 0) << "Hermite at " << s;
+    qelmInterpolationCatmullRom_v3_32f(p[0], p[1], p[2], p[3], s, d);
+    EXPECT_EQ(std::memcmp(d, p[s == 0 ? 1 : 2], 12), 0) << "Catmull-Rom at " << s;
+  }
+  const float a[2] = {0.1f, 1e8f}, b[2] = {0.7f, -3.0f};  // val 1 rounds through src2 - src1
+  qelmInterpolationLinear_v2_32f(a, b, 1.0f, d);
+  EXPECT_EQ(d[0], a[0] + (b[0] - a[0])); EXPECT_NE(d[1], b[1]); EXPECT_EQ(d[1], a[1] + (b[1] - a[1]));
+  qelmBaryCentric_v3_32f(p[0], p[1], p[2], 0, 0, d);
+  EXPECT_EQ(std::memcmp(d, p[0], 12), 0);
+}
+
+// ============================================================== 4x4 matrices
+
+using M4 = std::array<float, 16>;
+using L4 = std::array<LD, 16>;
+M4 randomMatrix() { M4 m; for (float& x : m) x = uniform(); return m; }
+template <class T> std::array<T, 16> transposed(const std::array<T, 16>& a) {
+  std::array<T, 16> t;
+  for (int k = 0; k < 16; ++k) t[k] = a[(k % 4) * 4 + k / 4];
+  return t;
+}
+// ((a(i,0) B0 + a(i,1) B1) + a(i,2) B2) + a(i,3) B3: the float model and the reference.
+template <class T> std::array<T, 16> product(const std::array<T, 16>& a, const std::array<T, 16>& b) {
+  std::array<T, 16> p;
+  for (int i = 0; i < 4; ++i)
+    for (int j = 0; j < 4; ++j) p[4 * i + j] = ((a[4 * i] * b[j] + a[4 * i + 1] * b[4 + j]) + a[4 * i + 2] * b[8 + j]) + a[4 * i + 3] * b[12 + j];
+  return p;
+}
+L4 wide(const M4& m) { L4 w; for (int k = 0; k < 16; ++k) w[k] = m[k]; return w; }
+// Gauss-Jordan with partial pivoting; the determinant on the way.
+L4 inverse(L4 a, LD* det = nullptr) {
+  L4 r{};
+  for (int i = 0; i < 4; ++i) r[5 * i] = 1;
+  LD d = 1;
+  for (int k = 0; k < 4; ++k) {
+    int p = k;
+    for (int i = k + 1; i < 4; ++i) if (std::fabs(a[4 * i + k]) > std::fabs(a[4 * p + k])) p = i;
+    if (p != k) { d = -d; for (int j = 0; j < 4; ++j) std::swap(a[4 * k + j], a[4 * p + j]), std::swap(r[4 * k + j], r[4 * p + j]); }
+    const LD piv = a[5 * k];
+    d *= piv;
+    for (int j = 0; j < 4; ++j) a[4 * k + j] /= piv, r[4 * k + j] /= piv;
+    for (int i = 0; i < 4; ++i)
+      if (i != k) { const LD f = a[4 * i + k]; for (int j = 0; j < 4; ++j) a[4 * i + j] -= f * a[4 * k + j], r[4 * i + j] -= f * r[4 * k + j]; }
+  }
+  if (det) *det = d;
+  return r;
+}
+// The row-0 expansion as four lanes of 2x2 minors of rows 2 and 3, signed lanes added in pairs.
+float detModel(const M4& m) {
+  const float *r0 = &m[0], *r1 = &m[4], *r2 = &m[8], *r3 = &m[12];
+  const int L[4] = {1, 0, 0, 0}, M[4] = {2, 2, 1, 1}, H[4] = {3, 3, 3, 2};
+  float t[4];
+  for (int k = 0; k < 4; ++k) {
+    const float a = r2[M[k]], b = r2[H[k]], c = r2[L[k]], d = r3[H[k]], e = r3[M[k]], f = r3[L[k]];
+    t[k] = (((a * d - b * e) * r1[L[k]] - (c * d - f * b) * r1[M[k]]) + (e * c - a * f) * r1[H[k]]) * r0[k];
+  }
+  return (t[0] - t[1]) + (t[2] - t[3]);
+}
+
+TEST(Geometry, MatrixRoutinesByOrderAndInPlace) {
+  for (int round = 0; round < 200; ++round) {
+    const M4 a = randomMatrix(), b = randomMatrix(), ab = product(a, b);
+    const L4 ref = product(wide(a), wide(b));
+    for (bool off4 : {false, true}) {
+      Slot sa(16, off4, a.data()), sb(16, !off4, b.data()), d(16, off4), t(16, !off4), det(1, off4);
+      ASSERT_EQ(qelmMul_mm4x4_32f(sa.p, sb.p, d.p), qelStatusOk);
+      ASSERT_EQ(qelmMulTranspose_m4_32f(sa.p, sb.p, t.p), qelStatusOk);
+      qelmDet_m4_32f(sa.p, det.p);
+      const M4 abT = transposed(ab);
+      for (int k = 0; k < 16; ++k) {
+        EXPECT_TRUE(sameBits(d[k], ab[k]) && sameBits(t[k], abT[k])) << k;
+        EXPECT_TRUE(close(d[k], ref[k], 8));
+      }
+      LD refDet;
+      inverse(wide(a), &refDet);
+      EXPECT_TRUE(sameBits(det[0], detModel(a)) && close(det[0], refDet, 24));
+      qelmTranspose_m4_32f(sa.p, t.p);
+      EXPECT_EQ(std::memcmp(t.p, transposed(a).data(), 64), 0);
+      EXPECT_TRUE(d.fenced() && t.fenced() && det.fenced());
+    }
+    M4 in = a;  // in place: the product of the values before the call
+    qelmMul_mm4x4_32f(in.data(), b.data(), in.data()); EXPECT_EQ(in, ab);
+    in = b, qelmMul_mm4x4_32f(a.data(), in.data(), in.data()); EXPECT_EQ(in, ab);
+    in = a, qelmMulTranspose_m4_32f(in.data(), b.data(), in.data()); EXPECT_EQ(in, transposed(ab));
+    in = a, qelmTranspose_m4_32f(in.data(), in.data()); EXPECT_EQ(in, transposed(a));
+  }
+  M4 m{};
+  Slot canary(16, false);
+  const float* none = nullptr;
+  EXPECT_EQ(qelmMul_mm4x4_32f(none, m.data(), canary.p), qelStatusNullPointer);
+  EXPECT_EQ(qelmMul_mm4x4_32f(m.data(), none, canary.p), qelStatusNullPointer);
+  EXPECT_EQ(qelmMul_mm4x4_32f(m.data(), m.data(), nullptr), qelStatusNullPointer);
+  canary.n = 0; EXPECT_TRUE(canary.fenced());
+}
+
+TEST(Geometry, InvertWithItsDeterminantAndSingularRule) {
+  for (int round = 0; round < 200; ++round) {
+    const M4 a = randomMatrix();
+    LD det;
+    const L4 ref = inverse(wide(a), &det);
+    LD big = 0, scale = 0;  // the error grows with the condition, about max|a| max|inverse|
+    for (int k = 0; k < 16; ++k) big = std::max(big, std::fabs(LD(a[k]))), scale = std::max(scale, std::fabs(ref[k]));
+    for (bool off4 : {false, true}) {
+      Slot s(16, off4, a.data()), d(16, !off4), dd(1, off4);
+      ASSERT_EQ(qelmInvert_m4_32f(s.p, off4 ? nullptr : dd.p, d.p), qelStatusOk);
+      if (!off4) {
+        EXPECT_TRUE(close(dd[0], det, 24));
+      }
+      for (int k = 0; k < 16; ++k) EXPECT_TRUE(close(d[k], ref[k], 4 * big * scale * scale, 16)) << k;
+      EXPECT_TRUE(d.fenced() && (off4 || dd.fenced()));
+    }
+  }
+  for (float target : {1e-36f, 2e-36f, 1e-18f, NAN}) {  // diag(target, 1, 1, 1): det exact
+    M4 m{target, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+    Slot d(16, false), dd(1, true);
+    const QelStatus st = qelmInvert_m4_32f(m.data(), dd.p, d.p);
+    EXPECT_EQ(st, target == 1e-36f ? qelStatusSingular : qelStatusOk);
+    EXPECT_TRUE(sameBits(dd[0], target == 1e-36f ? 0.0f : target)) << target;
+    if (target == 1e-36f) {
+      d.n = 0;
+      EXPECT_TRUE(d.fenced());
+    } else if (target == 1e-18f) {
+      EXPECT_TRUE(close(d[0], 1e18L, 1e18L) && close(d[5], 1, 1));
+    } else if (std::isnan(target)) {
+      EXPECT_TRUE(std::isnan(d[0]));
+    }
+  }
+}
+
+TEST(Geometry, IdentityAndItsWeakTest) {
+  Slot id(16, true);
+  qelmIdentity_m4_32f(id.p);
+  for (int k = 0; k < 16; ++k) EXPECT_TRUE(sameBits(id[k], k % 5 ? 0.0f : 1.0f));
+  EXPECT_TRUE(id.fenced());
+  struct Case { M4 m; int want; };
+  M4 negZero{1, -0.0f, 0, 0, -0.0f, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}, col3{1, 9, 9, 0, 9, 9, 9, 0, 9, 9, 9, 0, 9, 9, 9, 1};
+  const std::vector<Case> cases = {{M4{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}, 1}, {M4{}, 0},
+                                   {M4{1, 2, 3, 4, 0, 5, 6, 7, 0, 8, 9, 1, 0, 2, 3, 4}, 1},  // column 0 matches
+                                   {negZero, 1}, {col3, 1}, {M4{2, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}, 0},
+                                   {M4{NAN, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}, 0}, {M4{1, 9, 9, 9, 1, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9}, 0}};
+  for (const Case& c : cases) {
+    Qel32s got = -1;
+    EXPECT_EQ(qelmIsIdentity_m4_32f(c.m.data(), &got), qelStatusOk);
+    EXPECT_EQ(got, c.want);
+  }
+}
+
+}  // namespace
