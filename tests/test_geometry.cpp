@@ -317,4 +317,111 @@ TEST(Geometry, IdentityAndItsWeakTest) {
   }
 }
 
+// ============================================================== builders
+
+// The textbook column-vector matrices (a point is a column on the right), in long
+// double; the row-vector builders must give their transposes.
+L4 rows(std::initializer_list<LD> v) { L4 m{}; std::copy(v.begin(), v.end(), m.begin()); return m; }
+L4 columnRotation(int axis, LD a) {
+  const LD s = std::sin(a), c = std::cos(a);
+  if (axis == 0) return rows({1, 0, 0, 0, 0, c, -s, 0, 0, s, c, 0, 0, 0, 0, 1});
+  if (axis == 1) return rows({c, 0, s, 0, 0, 1, 0, 0, -s, 0, c, 0, 0, 0, 0, 1});
+  return rows({c, -s, 0, 0, s, c, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1});
+}
+L4 columnLookAt(const float* a, bool left) {  // a: eye, at, up
+  LD z[3], x[3], y[3], nz = 0, nx = 0;
+  for (int i = 0; i < 3; ++i) z[i] = left ? LD(a[3 + i]) - a[i] : LD(a[i]) - a[3 + i], nz += z[i] * z[i];
+  for (int i = 0; i < 3; ++i) z[i] /= std::sqrt(nz);
+  for (int i = 0; i < 3; ++i) x[i] = a[6 + (i + 1) % 3] * z[(i + 2) % 3] - a[6 + (i + 2) % 3] * z[(i + 1) % 3], nx += x[i] * x[i];
+  for (int i = 0; i < 3; ++i) x[i] /= std::sqrt(nx);
+  for (int i = 0; i < 3; ++i) y[i] = z[(i + 1) % 3] * x[(i + 2) % 3] - z[(i + 2) % 3] * x[(i + 1) % 3];
+  L4 m{};
+  for (int i = 0; i < 3; ++i) m[i] = x[i], m[4 + i] = y[i], m[8 + i] = z[i];
+  for (int i = 0; i < 3; ++i) m[3] -= x[i] * a[i], m[7] -= y[i] * a[i], m[11] -= z[i] * a[i];
+  m[15] = 1;
+  return m;
+}
+// Projections: x and y scales and offsets (the off-centre terms), depth 0..1 from zNear to zFar.
+L4 columnProjection(bool perspective, bool left, LD xs, LD ys, LD xo, LD yo, LD n, LD f) {
+  const LD h = left ? 1 : -1, range = left ? f - n : n - f;
+  if (!perspective) return rows({xs, 0, 0, xo, 0, ys, 0, yo, 0, 0, 1 / range, -h * n / range, 0, 0, 0, 1});
+  return rows({xs, 0, h * xo, 0, 0, ys, h * yo, 0, 0, 0, f / range, -h * n * f / range, 0, 0, h, 0});
+}
+
+struct BExp {
+  const char* name;
+  std::function<QelStatus(const float*, float*)> call;
+  std::function<L4(const LD*, const float*)> column;
+};
+#define B(NAME, CALL, COLUMN) BExp{#NAME, [](const float* a, float* d) { return qelm##NAME##_m4_32f CALL; }, [](const LD* a, const float* f) { (void)a, (void)f; return COLUMN; }}
+#define B_PROJ(NAME, PERSP, LEFT, XS, YS)                                                    \
+  B(NAME, (a[0], a[1], a[2], a[3], d), columnProjection(PERSP, LEFT, XS, YS, 0, 0, a[2], a[3]))
+#define B_OFF(NAME, PERSP, LEFT, S)                                                                                           \
+  B(NAME, (a[0], a[1], a[2], a[3], a[4], a[5], d),                                                                            \
+    columnProjection(PERSP, LEFT, S / (a[1] - a[0]), S / (a[3] - a[2]), (a[0] + a[1]) / (a[0] - a[1]),                       \
+                     (a[2] + a[3]) / (a[2] - a[3]), a[4], a[5]))
+const std::vector<BExp> kBuilders = {
+    B(Translation, (a[0], a[1], a[2], d), rows({1, 0, 0, a[0], 0, 1, 0, a[1], 0, 0, 1, a[2], 0, 0, 0, 1})),
+    B(Scaling, (a[0], a[1], a[2], d), rows({a[0], 0, 0, 0, 0, a[1], 0, 0, 0, 0, a[2], 0, 0, 0, 0, 1})),
+    B(RotationX, (a[0], d), columnRotation(0, a[0])), B(RotationY, (a[0], d), columnRotation(1, a[0])),
+    B(RotationZ, (a[0], d), columnRotation(2, a[0])),
+    BExp{"RotationAxis", [](const float* a, float* d) { return qelmRotationAxis_v3m4_32f(a, a[3], d); },
+         [](const LD* a, const float*) {  // c I + s [k]x + (1 - c) k k'
+           const LD n = std::sqrt(a[0] * a[0] + a[1] * a[1] + a[2] * a[2]), k[3] = {a[0] / n, a[1] / n, a[2] / n};
+           const LD s = std::sin(a[3]), c = std::cos(a[3]);
+           L4 m = rows({c, -s * k[2], s * k[1], 0, s * k[2], c, -s * k[0], 0, -s * k[1], s * k[0], c, 0, 0, 0, 0, 1});
+           for (int i = 0; i < 3; ++i) for (int j = 0; j < 3; ++j) m[4 * i + j] += (1 - c) * k[i] * k[j];
+           return m;
+         }},
+    B(RotationYawPitchRoll, (a[0], a[1], a[2], d),  // roll about z first, then pitch about x, then yaw about y
+      product(product(columnRotation(1, a[0]), columnRotation(0, a[1])), columnRotation(2, a[2]))),
+    B(LookAtLH, (a, a + 3, a + 6, d), columnLookAt(f, true)), B(LookAtRH, (a, a + 3, a + 6, d), columnLookAt(f, false)),
+    B_PROJ(OrthoLH, false, true, 2 / a[0], 2 / a[1]), B_PROJ(OrthoRH, false, false, 2 / a[0], 2 / a[1]),
+    B_PROJ(PerspectiveLH, true, true, 2 * a[2] / a[0], 2 * a[2] / a[1]),
+    B_PROJ(PerspectiveRH, true, false, 2 * a[2] / a[0], 2 * a[2] / a[1]),
+    B_PROJ(PerspectiveFovLH, true, true, 1 / std::tan(a[0] / 2) / a[1], 1 / std::tan(a[0] / 2)),
+    B_PROJ(PerspectiveFovRH, true, false, 1 / std::tan(a[0] / 2) / a[1], 1 / std::tan(a[0] / 2)),
+    B_OFF(OrthoOffCenterLH, false, true, 2), B_OFF(OrthoOffCenterRH, false, false, 2),
+    B_OFF(PerspectiveOffCenterLH, true, true, 2 * a[4]), B_OFF(PerspectiveOffCenterRH, true, false, 2 * a[4])};
+
+TEST(Geometry, BuildersAreTheTextbookMatricesTransposed) {
+  ASSERT_EQ(kBuilders.size(), 19u);
+  for (const BExp& e : kBuilders)
+    for (int round = 0; round < 50; ++round) {
+      float a[9];  // increasing from 0.5: left < right < bottom < top < zNear < zFar; the fov below pi
+      for (int k = 0; k < 9; ++k) a[k] = std::string(e.name).find("Look") == 0 ? uniform(-3, 3) : 0.5f + k + uniform(0, 0.5f);
+      LD wide[9];
+      std::copy(a, a + 9, wide);
+      const L4 c = e.column(wide, a);
+      LD scale = 0;
+      for (LD x : c) scale = std::max(scale, std::fabs(x));
+      Slot d(16, round % 2);
+      ASSERT_EQ(e.call(a, d.p), qelStatusOk);
+      for (int k = 0; k < 16; ++k) EXPECT_TRUE(close(d[k], c[(k % 4) * 4 + k / 4], scale, 16)) << e.name << " element " << k;
+      EXPECT_TRUE(d.fenced());
+    }
+}
+
+TEST(Geometry, BuilderEdges) {
+  M4 z, axis;
+  const float twoZ[3] = {0, 0, 2}, zero[3] = {};
+  qelmRotationZ_m4_32f(0.7f, z.data()), qelmRotationAxis_v3m4_32f(twoZ, 0.7f, axis.data());
+  EXPECT_EQ(axis, z);  // the axis is normalised first
+  qelmRotationAxis_v3m4_32f(zero, 0.7f, axis.data());
+  EXPECT_TRUE(std::isnan(axis[0]) && std::isnan(axis[10]));
+  qelmPerspectiveLH_m4_32f(2, 2, 1, 1, z.data());
+  EXPECT_TRUE(std::isinf(z[10]));
+  const float eye[3] = {0, 0, -5}, at[3] = {}, up[3] = {0, 1, 0}, along[3] = {0, 0, 1};
+  qelmLookAtLH_m4_32f(eye, at, up, z.data());
+  EXPECT_EQ(z, (M4{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 5, 1}));
+  EXPECT_FALSE(std::signbit(z[12]) || std::signbit(z[13]));  // 0 - 0 is +0
+  EXPECT_EQ(qelmLookAtLH_m4_32f(eye, at, along, z.data()), qelStatusOk);
+  EXPECT_TRUE(std::isnan(z[0]) && std::isnan(z[12]));
+  M4 lh, rh;
+  qelmOrthoLH_m4_32f(2, 2, 1, 3, lh.data()), qelmOrthoRH_m4_32f(2, 2, 1, 3, rh.data());
+  EXPECT_TRUE(lh[10] == 0.5f && lh[14] == -0.5f && rh[10] == -0.5f && rh[14] == -0.5f);
+  qelmRotationX_m4_32f(0, lh.data());
+  EXPECT_FALSE(std::signbit(lh[9]));  // -s formed as 0 - s
+}
+
 }  // namespace
