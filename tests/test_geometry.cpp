@@ -424,4 +424,226 @@ TEST(Geometry, BuilderEdges) {
   EXPECT_FALSE(std::signbit(lh[9]));  // -s formed as 0 - s
 }
 
+// ============================================================== transforms
+
+enum TKind { Plain, Coord, Normal };
+using Single = QelStatus (*)(const Qel32f*, const Qel32f*, Qel32f*);
+using Array = QelStatus (*)(const Qel32f*, const Qel32f*, int, Qel32f*, int, int);
+struct TExp {
+  const char* name;
+  TKind kind;
+  int n, outs;
+  Single one;
+  Array many;
+};
+#define T_ROW(OP, KIND, N, OUTS) TExp{#OP "_m4v" #N, KIND, N, OUTS, qelm##OP##_m4v##N##_32f, qelm##OP##_m4v##N##a_32f}
+const std::vector<TExp> kTransforms = {T_ROW(AffineTransform, Plain, 2, 4), T_ROW(AffineTransform, Plain, 3, 4),
+                                       T_ROW(AffineTransform, Plain, 4, 4), T_ROW(AffineTransformCoord, Coord, 2, 2),
+                                       T_ROW(AffineTransformCoord, Coord, 3, 3), T_ROW(AffineTransformNormal, Normal, 2, 2),
+                                       T_ROW(AffineTransformNormal, Normal, 3, 3)};
+
+// Each form's order of the row additions, lane c; T = long double gives the reference.
+template <class T, class M>
+std::array<T, 4> transformModel(TKind kind, int n, const M& m, const float* v) {
+  std::array<T, 4> r;
+  for (int c = 0; c < 4; ++c) {
+    auto R = [&](int k) { return T(m[4 * k + c]); };
+    const T x = v[0], y = v[1], z = n > 2 ? T(v[2]) : T(0);
+    if (kind == Normal) r[c] = n == 2 ? R(0) * x + R(1) * y : (R(0) * x + R(1) * y) + R(2) * z;
+    else if (kind == Coord) r[c] = n == 2 ? (R(0) * x + R(3)) + R(1) * y : (R(3) + R(2) * z) + (R(0) * x + R(1) * y);
+    else if (n == 4) r[c] = (R(0) * x + R(1) * y) + (R(2) * z + R(3) * T(v[3]));
+    else r[c] = n == 2 ? (R(3) + R(0) * x) + R(1) * y : ((R(3) + R(0) * x) + R(1) * y) + R(2) * z;
+  }
+  if (kind == Coord) for (int c = 0; c < 4; ++c) r[c] = r[c] / r[3];
+  return r;
+}
+
+TEST(Geometry, TransformsByOrderAlignedAndThroughGappedStrides) {
+  for (const TExp& e : kTransforms)
+    for (int round = 0; round < 30; ++round) {
+      const M4 m = randomMatrix();
+      const int count = round % 6;
+      std::vector<float> src(count * 8 + 4);
+      for (float& x : src) x = uniform();
+      for (bool off4 : {false, true}) {  // single form
+        Slot v(e.n, off4, src.data()), d(e.outs, !off4);
+        ASSERT_EQ(e.one(m.data(), v.p, d.p), qelStatusOk);
+        const auto want = transformModel<float>(e.kind, e.n, m, src.data());
+        const auto ref = transformModel<LD>(e.kind, e.n, wide(m), src.data());
+        for (int c = 0; c < e.outs; ++c) {
+          EXPECT_TRUE(sameBits(d[c], want[c])) << e.name << " " << c;
+          EXPECT_TRUE(close(d[c], ref[c], e.kind == Coord ? 1e3L * (1 + std::fabs(ref[c])) : 8)) << e.name;
+        }
+        EXPECT_TRUE(d.fenced());
+      }
+      // Arrays: packed, and with gaps of two elements after each source and three after each result.
+      for (int gap : {0, 1}) {
+        const int ss = 4 * (e.n + 2 * gap), ds = 4 * (e.outs + 3 * gap);
+        std::vector<float> in(count * (e.n + 2) + 1), out(count * (e.outs + 3) + 4);
+        std::memset(out.data(), 0xA5, out.size() * 4);
+        for (int i = 0; i < count; ++i) std::copy_n(src.begin() + i * e.n, e.n, in.begin() + 1 + i * ss / 4);
+        ASSERT_EQ(e.many(m.data(), in.data() + 1, ss, out.data() + 1, ds, count), qelStatusOk);
+        for (int k = 0; k < int(out.size()); ++k) {
+          const int i = (k - 1) / (ds / 4), c = (k - 1) % (ds / 4);
+          if (k >= 1 && i < count && c < e.outs)
+            EXPECT_TRUE(sameBits(out[k], transformModel<float>(e.kind, e.n, m, &src[i * e.n])[c])) << e.name << " " << i;
+          else
+            EXPECT_EQ(std::memcmp(&out[k], &kCanary, 4), 0) << e.name << " wrote a gap at " << k;
+        }
+      }
+    }
+  const M4 flat{1, 2, 0, 0, 3, 4, 0, 0, 5, 6, 0, 0, 0, 0, 0, 0}, move{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 7, 8, 9, 1};
+  const float v[3] = {1, 2, 3};
+  float d[4];
+  EXPECT_EQ(qelmAffineTransformCoord_m4v2_32f(flat.data(), v, d), qelStatusOk);  // w = 0: no guard
+  EXPECT_TRUE(!std::isfinite(d[0]) && !std::isfinite(d[1]));
+  qelmAffineTransformNormal_m4v3_32f(move.data(), v, d);
+  EXPECT_EQ(std::memcmp(d, v, 12), 0);
+  qelmAffineTransform_m4v3_32f(move.data(), v, d);
+  EXPECT_TRUE(d[0] == 8 && d[1] == 10 && d[2] == 12 && d[3] == 1);
+}
+
+// A world, a look-at view and a perspective projection, the points in front.
+struct Scene {
+  M4 projection, view, world;
+  float port[4] = {640, 480, 0.25f, 0.75f};  // viewWidth, viewHeight, minZ, maxZ
+  Scene() {
+    const float eye[3] = {uniform(), uniform(), -8}, at[3] = {uniform(), uniform(), 0}, up[3] = {0.1f, 1, 0};
+    qelmPerspectiveFovLH_m4_32f(uniform(0.6f, 1.4f), 4.0f / 3, 0.5f, 50, projection.data());
+    qelmLookAtLH_m4_32f(eye, at, up, view.data());
+    qelmRotationYawPitchRoll_m4_32f(uniform(), uniform(), uniform(), world.data());
+    world[12] = uniform(), world[13] = uniform(), world[14] = uniform();
+  }
+  // Steps 4 and 5 of Project on a chain result r.
+  std::array<float, 3> toScreen(std::array<float, 4> r) const {
+    for (int c = 0; c < 3; ++c) r[c] = r[c] / r[3];
+    const float hw = port[0] * 0.5f, hh = port[1] * 0.5f;
+    return {hw + hw * r[0], hh + (0.0f - hh) * r[1], port[2] + (port[3] - port[2]) * r[2]};
+  }
+};
+std::array<float, 4> times(const std::array<float, 4>& r, const M4& m) {  // (R0 r0 + R1 r1) + (R2 r2 + R3 r3)
+  const M4 col = transposed(m);
+  std::array<float, 4> o;
+  for (int c = 0; c < 4; ++c) o[c] = (col[4 * c] * r[0] + col[4 * c + 1] * r[1]) + (col[4 * c + 2] * r[2] + col[4 * c + 3] * r[3]);
+  return o;
+}
+
+TEST(Geometry, ProjectAndUnproject) {
+  for (int round = 0; round < 50; ++round) {
+    const Scene s;
+    const int count = round % 5;
+    float pts[4][3], scr[4][3], back[4][3], arr[4][4];
+    for (auto& p : pts) for (float& x : p) x = uniform(-1, 1);
+    const M4 chain = product(s.world, product(s.view, s.projection));
+    for (int i = 0; i < 4; ++i) {
+      const auto p = s.toScreen(times(times(transformModel<float>(Plain, 3, s.world, pts[i]), s.view), s.projection));
+      Slot d(3, i % 2);
+      ASSERT_EQ(qelmProject_m4v3_32f(s.projection.data(), s.view.data(), s.world.data(), pts[i], s.port[0], s.port[1], s.port[2], s.port[3], d.p), qelStatusOk);
+      for (int c = 0; c < 3; ++c) EXPECT_TRUE(sameBits(d[c], p[c])) << "Project " << c;
+      EXPECT_TRUE(d.fenced());
+      std::memcpy(scr[i], d.p, 12);
+      ASSERT_EQ(qelmUnproject_m4v3_32f(s.projection.data(), s.view.data(), s.world.data(), scr[i], s.port[0], s.port[1], s.port[2], s.port[3], back[i]), qelStatusOk);
+      for (int c = 0; c < 3; ++c) EXPECT_NEAR(back[i][c], pts[i][c], 2e-3f) << "Unproject " << c;
+      // Its bits: the device coordinates by the Qel32f chain inverted wide and rounded.
+      const L4 inv = inverse(wide(product(product(s.world, s.view), s.projection)));
+      M4 narrow;
+      for (int k = 0; k < 16; ++k) narrow[k] = float(inv[k]);
+      const float dev[3] = {(2.0f * scr[i][0]) / s.port[0] - 1.0f, (-2.0f * scr[i][1]) / s.port[1] + 1.0f, (scr[i][2] - s.port[2]) / (s.port[3] - s.port[2])};
+      const auto u = transformModel<float>(Coord, 3, narrow, dev);
+      for (int c = 0; c < 3; ++c) EXPECT_TRUE(sameBits(back[i][c], u[c])) << "Unproject bits " << c;
+    }
+    // Arrays: the chain multiplied once, the results through one transform; strides with gaps.
+    std::memset(arr, 0xA5, sizeof arr);
+    ASSERT_EQ(qelmProject_m4v3a_32f(s.projection.data(), s.view.data(), s.world.data(), pts[0], 12, s.port[0], s.port[1], s.port[2], s.port[3], arr[0], 16, count), qelStatusOk);
+    for (int i = 0; i < 4; ++i) {
+      const auto p = s.toScreen(transformModel<float>(Plain, 3, chain, pts[i]));
+      for (int c = 0; c < 4; ++c) EXPECT_TRUE(i < count && c < 3 ? sameBits(arr[i][c], p[c]) : std::memcmp(&arr[i][c], &kCanary, 4) == 0) << i << c;
+    }
+    std::memset(arr, 0xA5, sizeof arr);
+    ASSERT_EQ(qelmUnproject_m4v3a_32f(s.projection.data(), s.view.data(), s.world.data(), scr[0], 12, s.port[0], s.port[1], s.port[2], s.port[3], arr[0], 16, count), qelStatusOk);
+    for (int i = 0; i < 4; ++i)
+      for (int c = 0; c < 4; ++c) EXPECT_TRUE(i < count && c < 3 ? sameBits(arr[i][c], back[i][c]) : std::memcmp(&arr[i][c], &kCanary, 4) == 0);
+  }
+  // Identity chain: the viewport alone. A singular world: the device coordinates stay, arrays stay untouched.
+  const M4 id{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}, zero{};
+  const float p[3] = {0.5f, -0.25f, 0.5f};
+  float d[3];
+  qelmProject_m4v3_32f(id.data(), id.data(), id.data(), p, 640, 480, 0.25f, 0.75f, d);
+  EXPECT_TRUE(d[0] == 320 + 320 * 0.5f && d[1] == 240 - 240 * -0.25f && d[2] == 0.25f + 0.5f * 0.5f);
+  EXPECT_EQ(qelmUnproject_m4v3_32f(id.data(), id.data(), zero.data(), d, 640, 480, 0.25f, 0.75f, d), qelStatusSingular);
+  EXPECT_TRUE(d[0] == (2.0f * 480) / 640 - 1 && d[1] == (-2.0f * 300) / 480 + 1 && d[2] == 0.5f);
+  Slot untouched(6, false);
+  EXPECT_EQ(qelmUnproject_m4v3a_32f(id.data(), id.data(), zero.data(), p, 0, 640, 480, 0, 1, untouched.p, 12, 2), qelStatusSingular);
+  EXPECT_EQ(qelmUnproject_m4v3a_32f(id.data(), id.data(), id.data(), p, 0, 640, 480, 0, 1, untouched.p, 12, 0), qelStatusOk);
+  untouched.n = 0;
+  EXPECT_TRUE(untouched.fenced());
+}
+
+// ---- the checked column-vector transform
+
+struct H3 {
+  std::vector<float> m, v, d;
+  int s1, s2, vs0, vs2, ds0, ds2, count;
+  H3(int n, int ms1, int ms2, int vStride2, int dStride2)
+      : m(64), v(n * 4 * 3 + 4), d(n * 4 * 3 + 4), s1(ms1), s2(ms2), vs0(4 * (vStride2 / 4) * 3 + 4), vs2(vStride2),
+        ds0(4 * (dStride2 / 4) * 3 + 8), ds2(dStride2), count(n) {
+    for (float& x : m) x = uniform();
+    for (float& x : v) x = uniform();
+    for (int r = 0; r < 4; ++r) at(r, 3) = uniform(2, 3);  // keep w away from 0
+    std::memset(d.data(), 0xA5, d.size() * 4);
+  }
+  float& at(int r, int c) { return m[(r * s1 + c * s2) / 4]; }
+  float& in(int n, int k) { return v[(n * vs0 + k * vs2) / 4]; }
+  float& out(int n, int k) { return d[(n * ds0 + k * ds2) / 4]; }
+  QelStatus run() { return qelmAffineTransform3DH_mva_32f(m.data(), s1, s2, v.data(), vs0, vs2, d.data(), ds0, ds2, count); }
+  // t = (M(r,0) x + M(r,1) y) + (M(r,2) z + M(r,3)), then t / t3 by its reciprocal unless |t3| <= FLT_MIN.
+  void check(const std::string& how) {
+    std::vector<bool> written(d.size());
+    for (int n = 0; n < count; ++n) {
+      float t[4];
+      for (int r = 0; r < 4; ++r) t[r] = (at(r, 0) * in(n, 0) + at(r, 1) * in(n, 1)) + (at(r, 2) * in(n, 2) + at(r, 3));
+      const bool ok = std::fabs(t[3]) > FLT_MIN;
+      for (int k = 0; k < 3; ++k) {
+        EXPECT_TRUE(sameBits(out(n, k), ok ? t[k] * (1.0f / t[3]) : FLT_MAX)) << how << " " << n << "," << k;
+        written[(n * ds0 + k * ds2) / 4] = true;
+      }
+    }
+    for (size_t k = 0; k < d.size(); ++k) EXPECT_TRUE(written[k] || std::memcmp(&d[k], &kCanary, 4) == 0) << how << " gap " << k;
+  }
+};
+
+TEST(Geometry, AffineTransform3DHChecksPathsAndDivideByZero) {
+  // Matrix row-major with gaps or column-major; vectors packed or with gaps (a general kernel).
+  for (auto [s1, s2, vs2, ds2] : {std::array{16, 4, 4, 4}, {20, 4, 4, 4}, {4, 16, 4, 8}, {16, 4, 8, 4}, {16, 4, 4, 12}})
+    for (int count : {1, 5, 130, 131})
+      for (int threads : {1, 2}) {
+        H3 h(count, s1, s2, vs2, ds2);
+        const int zeroW = count > 3 ? count - 2 : -1;  // one vector with t3 = 0, in the second share
+        if (zeroW > 0) h.in(zeroW, 0) = h.in(zeroW, 1) = h.in(zeroW, 2) = 0, h.at(3, 3) = 0;
+        PinnedBudget budget(threads);
+        EXPECT_EQ(h.run(), zeroW > 0 ? qelStatusDivideByZero : qelStatusOk);
+        EXPECT_EQ(budget.calls() > 0, count >= 131) << "6 count above 784 goes to the driver";
+        h.check("strides " + std::to_string(s1) + "," + std::to_string(s2) + " count " + std::to_string(count));
+      }
+  // Checks N C S, in that order, nothing written.
+  H3 h(2, 16, 4, 4, 4);
+  const float* none = nullptr;
+  auto call = [&](const float* a, const float* b, float* c, int count, std::array<int, 6> st) {
+    return qelmAffineTransform3DH_mva_32f(a, st[0], st[1], b, st[2], st[3], c, st[4], st[5], count);
+  };
+  const std::array<int, 6> good{16, 4, 16, 4, 16, 4};
+  EXPECT_EQ(call(none, h.v.data(), h.d.data(), 0, good), qelStatusNullPointer);
+  EXPECT_EQ(call(h.m.data(), none, h.d.data(), 1, good), qelStatusNullPointer);
+  EXPECT_EQ(call(h.m.data(), h.v.data(), nullptr, 1, good), qelStatusNullPointer);
+  for (int k = 0; k < 6; ++k)
+    for (int bad : {0, 2, -4}) {
+      auto st = good;
+      st[k] = bad;
+      EXPECT_EQ(call(h.m.data(), h.v.data(), h.d.data(), 0, st), qelStatusBadCount);
+      EXPECT_EQ(call(h.m.data(), h.v.data(), h.d.data(), 1, st), qelStatusBadStride);
+    }
+  h.count = 0;
+  h.check("failed checks");
+}
+
 }  // namespace
