@@ -4,7 +4,7 @@
 // through world, view and projection onto a viewport and back, and the one
 // column-vector array transform with the array families' checks. Every form
 // writes its own order of the row additions; arrays of the unchecked forms run
-// the single form vector by vector, strides trusted as given.
+// the single form on each vector, strides trusted as given.
 #include "../frame/export.h"
 #include "../frame/operands.h"
 #include "../solvers/invert4x4.h"
@@ -18,51 +18,75 @@ namespace {
 using namespace qel;
 using namespace qel::geo;
 
-// One vector's transform: src and dst at the addresses of that vector.
-template <class Form>
+// Each vector through `form`, src and dst moved by their strides. Packed
+// sources (N elements apart) go four vectors to a block of N loads; the values
+// are the same either way.
+template <int N, class Form>
 QelStatus overArray(const Form& form, const float* src, int srcStride, float* dst, int dstStride, int count) {
-  for (int i = 0; i < count; ++i) form(byteAt(src, mul32(i, srcStride)), byteAt(dst, mul32(i, dstStride)));
+  int i = 0;
+  if (srcStride == 4 * N)
+    for (; count - i >= 4; i += 4) {
+      const float* s = byteAt(src, mul32(i, srcStride));
+      __m128 r[N];
+      unroll<N>([&](auto k) { r[k] = _mm_loadu_ps(s + 4 * k); });
+      unroll<4>([&](auto p) { form(FromBlock<decltype(p)::value * N>{r}, byteAt(dst, mul32(i + p, dstStride))); });
+    }
+  for (; i < count; ++i) form(FromMemory{byteAt(src, mul32(i, srcStride))}, byteAt(dst, mul32(i, dstStride)));
   return qelStatusOk;
 }
 
-// The forms, each holding the matrix rows it needs in registers.
+// The forms, each holding the matrix rows in registers; N is the length of the
+// source vector.
 struct Plain2 {
+  static constexpr int N = 2;
   Rows4 m;
-  void operator()(const float* s, float* d) const {
-    _mm_storeu_ps(d, (m.r[3] + m.r[0] * _mm_set1_ps(s[0])) + m.r[1] * _mm_set1_ps(s[1]));
+  template <class P>
+  void operator()(const P& p, float* d) const {
+    _mm_storeu_ps(d, (m.r[3] + m.r[0] * el<0>(p)) + m.r[1] * el<1>(p));
   }
 };
 struct Plain3 {
+  static constexpr int N = 3;
   Rows4 m;
-  void operator()(const float* s, float* d) const { _mm_storeu_ps(d, plainPoint3(m, s)); }
+  template <class P>
+  void operator()(const P& p, float* d) const { _mm_storeu_ps(d, plainPoint3(m, p)); }
 };
 struct Plain4 {
+  static constexpr int N = 4;
   Rows4 m;
-  void operator()(const float* s, float* d) const {
-    _mm_storeu_ps(d, (m.r[0] * _mm_set1_ps(s[0]) + m.r[1] * _mm_set1_ps(s[1])) +
-                         (m.r[2] * _mm_set1_ps(s[2]) + m.r[3] * _mm_set1_ps(s[3])));
+  template <class P>
+  void operator()(const P& p, float* d) const {
+    _mm_storeu_ps(d, (m.r[0] * el<0>(p) + m.r[1] * el<1>(p)) + (m.r[2] * el<2>(p) + m.r[3] * el<3>(p)));
   }
 };
 struct Coord2 {
+  static constexpr int N = 2;
   Rows4 m;
-  void operator()(const float* s, float* d) const {
-    Lanes<float>::store<2>(d, byW((m.r[0] * _mm_set1_ps(s[0]) + m.r[3]) + m.r[1] * _mm_set1_ps(s[1])));
+  template <class P>
+  void operator()(const P& p, float* d) const {
+    Lanes<float>::store<2>(d, byW((m.r[0] * el<0>(p) + m.r[3]) + m.r[1] * el<1>(p)));
   }
 };
 struct Coord3 {
+  static constexpr int N = 3;
   Rows4 m;
-  void operator()(const float* s, float* d) const { Lanes<float>::store<3>(d, coordPoint3(m, s)); }
+  template <class P>
+  void operator()(const P& p, float* d) const { Lanes<float>::store<3>(d, coordPoint3(m, p)); }
 };
 struct Normal2 {
+  static constexpr int N = 2;
   Rows4 m;
-  void operator()(const float* s, float* d) const {
-    Lanes<float>::store<2>(d, m.r[0] * _mm_set1_ps(s[0]) + m.r[1] * _mm_set1_ps(s[1]));
+  template <class P>
+  void operator()(const P& p, float* d) const {
+    Lanes<float>::store<2>(d, m.r[0] * el<0>(p) + m.r[1] * el<1>(p));
   }
 };
 struct Normal3 {
+  static constexpr int N = 3;
   Rows4 m;
-  void operator()(const float* s, float* d) const {
-    Lanes<float>::store<3>(d, (m.r[0] * _mm_set1_ps(s[0]) + m.r[1] * _mm_set1_ps(s[1])) + m.r[2] * _mm_set1_ps(s[2]));
+  template <class P>
+  void operator()(const P& p, float* d) const {
+    Lanes<float>::store<3>(d, (m.r[0] * el<0>(p) + m.r[1] * el<1>(p)) + m.r[2] * el<2>(p));
   }
 };
 
@@ -117,12 +141,12 @@ QelStatus homogeneous(M m, S src, D dst, int count) {
 // clang-format off
 #define QEL_TRANSFORM(OP, SHAPE, FORM)                                                                          \
   QELM_API QelStatus qelm##OP##_##SHAPE##_32f(const Qel32f* m, const Qel32f* src, Qel32f* dst) {               \
-    FORM{loadRows(m)}(src, dst);                                                                              \
+    FORM{loadRows(m)}(FromMemory{src}, dst);                                                                  \
     return qelStatusOk;                                                                                       \
   }                                                                                                           \
   QELM_API QelStatus qelm##OP##_##SHAPE##a_32f(const Qel32f* m, const Qel32f* src, int srcStride, Qel32f* dst, \
                                                int dstStride, int count) {                                    \
-    return overArray(FORM{loadRows(m)}, src, srcStride, dst, dstStride, count);                               \
+    return overArray<FORM::N>(FORM{loadRows(m)}, src, srcStride, dst, dstStride, count);                      \
   }
 QEL_TRANSFORM(AffineTransform,       m4v2, Plain2)
 QEL_TRANSFORM(AffineTransform,       m4v3, Plain3)
@@ -137,7 +161,7 @@ QEL_TRANSFORM(AffineTransformNormal, m4v3, Normal3)
 QELM_API QelStatus qelmProject_m4v3_32f(const Qel32f* projection, const Qel32f* view, const Qel32f* world,
                                         const Qel32f* src, Qel32f viewWidth, Qel32f viewHeight, Qel32f minZ,
                                         Qel32f maxZ, Qel32f* dst) {
-  const __m128 r = vectorTimes(vectorTimes(plainPoint3(loadRows(world), src), loadRows(view)), loadRows(projection));
+  const __m128 r = vectorTimes(vectorTimes(plainPoint3(loadRows(world), FromMemory{src}), loadRows(view)), loadRows(projection));
   Viewport{viewWidth, viewHeight, minZ, maxZ}.toScreen(r, dst);
   return qelStatusOk;
 }
@@ -150,8 +174,8 @@ QELM_API QelStatus qelmProject_m4v3a_32f(const Qel32f* projection, const Qel32f*
   if (count < 1) return qelStatusOk;
   const Rows4 chain = product(loadRows(world), product(loadRows(view), loadRows(projection)));
   const Viewport port{viewWidth, viewHeight, minZ, maxZ};
-  return overArray([&](const float* s, float* d) { port.toScreen(plainPoint3(chain, s), d); }, src, srcStride, dst,
-                   dstStride, count);
+  return overArray<3>([&](const auto& p, float* d) { port.toScreen(plainPoint3(chain, p), d); }, src, srcStride,
+                      dst, dstStride, count);
 }
 
 namespace {
@@ -173,8 +197,9 @@ QelStatus chainInverse(const float* projection, const float* view, const float* 
 // into 0..1.
 struct Unviewport {
   float viewWidth, viewHeight, minZ, maxZ;
-  void toDevice(const float* s, float* d) const {
-    const float x = s[0], y = s[1], z = s[2];
+  template <class P>
+  void toDevice(const P& p, float* d) const {
+    const float x = _mm_cvtss_f32(el<0>(p)), y = _mm_cvtss_f32(el<1>(p)), z = _mm_cvtss_f32(el<2>(p));
     d[0] = (2.0f * x) / viewWidth - 1.0f;
     d[1] = (-2.0f * y) / viewHeight + 1.0f;
     d[2] = (z - minZ) / (maxZ - minZ);
@@ -187,10 +212,10 @@ struct Unviewport {
 QELM_API QelStatus qelmUnproject_m4v3_32f(const Qel32f* projection, const Qel32f* view, const Qel32f* world,
                                           const Qel32f* src, Qel32f viewWidth, Qel32f viewHeight, Qel32f minZ,
                                           Qel32f maxZ, Qel32f* dst) {
-  Unviewport{viewWidth, viewHeight, minZ, maxZ}.toDevice(src, dst);
+  Unviewport{viewWidth, viewHeight, minZ, maxZ}.toDevice(FromMemory{src}, dst);
   Rows4 inverse;
   if (QelStatus st = chainInverse(projection, view, world, inverse)) return st;
-  Lanes<float>::store<3>(dst, coordPoint3(inverse, dst));
+  Lanes<float>::store<3>(dst, coordPoint3(inverse, FromMemory{dst}));
   return qelStatusOk;
 }
 
@@ -202,11 +227,11 @@ QELM_API QelStatus qelmUnproject_m4v3a_32f(const Qel32f* projection, const Qel32
   Rows4 inverse;
   if (QelStatus st = chainInverse(projection, view, world, inverse)) return st;
   const Unviewport port{viewWidth, viewHeight, minZ, maxZ};
-  return overArray(
-      [&](const float* s, float* d) {
+  return overArray<3>(
+      [&](const auto& p, float* d) {
         float n[3];
-        port.toDevice(s, n);
-        Lanes<float>::store<3>(d, coordPoint3(inverse, n));
+        port.toDevice(p, n);
+        Lanes<float>::store<3>(d, coordPoint3(inverse, FromMemory{n}));
       },
       src, srcStride, dst, dstStride, count);
 }
