@@ -304,6 +304,9 @@ TEST(Geometry, IdentityAndItsWeakTest) {
   qelmIdentity_m4_32f(id.p);
   for (int k = 0; k < 16; ++k) EXPECT_TRUE(sameBits(id[k], k % 5 ? 0.0f : 1.0f));
   EXPECT_TRUE(id.fenced());
+  float det = 0;
+  qelmDet_m4_32f(id.p, &det);
+  EXPECT_EQ(det, 1.0f);
   struct Case { M4 m; int want; };
   M4 negZero{1, -0.0f, 0, 0, -0.0f, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}, col3{1, 9, 9, 0, 9, 9, 9, 0, 9, 9, 9, 0, 9, 9, 9, 1};
   const std::vector<Case> cases = {{M4{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}, 1}, {M4{}, 0},
