@@ -2077,6 +2077,131 @@ QelStatus qelmEigenValuesVectorsSym_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRo
                                              Qel64f* buffer, QEL_DST_LIST(Qel64f) dstVectors, int dstRoiShift,
                                              int dstStride0, Qel64f* dstValues, int size, int count);
 
+/* ---- Geometry on fixed sizes: packed Qel32f vectors of 2, 3 or 4 elements and
+ * packed 4x4 matrices (element (r, c) at 4 r + c), any alignment, in the
+ * row-vector convention: a point multiplies a matrix from the left, translation
+ * stands in row 3. No checks unless stated: only qelmMul_mm4x4_32f tests its
+ * pointers, and qelmAffineTransform3DH_mva_32f checks as the array families do. */
+
+QelStatus qelmAdd_v2_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmSub_v2_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmMulC_v2_32f(const Qel32f* src, Qel32f val, Qel32f* dst);
+QelStatus qelmDotProduct_v2_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmCrossProduct_v2_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmLenSqr_v2_32f(const Qel32f* src, Qel32f* dst);
+QelStatus qelmLen_v2_32f(const Qel32f* src, Qel32f* dst);
+QelStatus qelmMax_v2_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmMin_v2_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmNormalize_v2_32f(const Qel32f* src, Qel32f* dst);
+QelStatus qelmInterpolationLinear_v2_32f(const Qel32f* src1, const Qel32f* src2, Qel32f val, Qel32f* dst);
+QelStatus qelmBaryCentric_v2_32f(const Qel32f* src1, const Qel32f* src2, const Qel32f* src3, Qel32f val1,
+                              Qel32f val2, Qel32f* dst);
+QelStatus qelmHermite_v2_32f(const Qel32f* src1, const Qel32f* src2, const Qel32f* src3, const Qel32f* src4,
+                          Qel32f val, Qel32f* dst);
+QelStatus qelmInterpolationCatmullRom_v2_32f(const Qel32f* src1, const Qel32f* src2, const Qel32f* src3,
+                                          const Qel32f* src4, Qel32f val, Qel32f* dst);
+QelStatus qelmAdd_v3_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmSub_v3_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmMulC_v3_32f(const Qel32f* src, Qel32f val, Qel32f* dst);
+QelStatus qelmDotProduct_v3_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmCrossProduct_v3_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmLenSqr_v3_32f(const Qel32f* src, Qel32f* dst);
+QelStatus qelmLen_v3_32f(const Qel32f* src, Qel32f* dst);
+QelStatus qelmMax_v3_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmMin_v3_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmNormalize_v3_32f(const Qel32f* src, Qel32f* dst);
+QelStatus qelmInterpolationLinear_v3_32f(const Qel32f* src1, const Qel32f* src2, Qel32f val, Qel32f* dst);
+QelStatus qelmBaryCentric_v3_32f(const Qel32f* src1, const Qel32f* src2, const Qel32f* src3, Qel32f val1,
+                              Qel32f val2, Qel32f* dst);
+QelStatus qelmHermite_v3_32f(const Qel32f* src1, const Qel32f* src2, const Qel32f* src3, const Qel32f* src4,
+                          Qel32f val, Qel32f* dst);
+QelStatus qelmInterpolationCatmullRom_v3_32f(const Qel32f* src1, const Qel32f* src2, const Qel32f* src3,
+                                          const Qel32f* src4, Qel32f val, Qel32f* dst);
+QelStatus qelmAdd_v4_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmSub_v4_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmMulC_v4_32f(const Qel32f* src, Qel32f val, Qel32f* dst);
+QelStatus qelmDotProduct_v4_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmCrossProduct_v4_32f(const Qel32f* src1, const Qel32f* src2, const Qel32f* src3, Qel32f* dst);
+QelStatus qelmLenSqr_v4_32f(const Qel32f* src, Qel32f* dst);
+QelStatus qelmLen_v4_32f(const Qel32f* src, Qel32f* dst);
+QelStatus qelmMax_v4_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmMin_v4_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmNormalize_v4_32f(const Qel32f* src, Qel32f* dst);
+QelStatus qelmInterpolationLinear_v4_32f(const Qel32f* src1, const Qel32f* src2, Qel32f val, Qel32f* dst);
+QelStatus qelmBaryCentric_v4_32f(const Qel32f* src1, const Qel32f* src2, const Qel32f* src3, Qel32f val1,
+                              Qel32f val2, Qel32f* dst);
+QelStatus qelmHermite_v4_32f(const Qel32f* src1, const Qel32f* src2, const Qel32f* src3, const Qel32f* src4,
+                          Qel32f val, Qel32f* dst);
+QelStatus qelmInterpolationCatmullRom_v4_32f(const Qel32f* src1, const Qel32f* src2, const Qel32f* src3,
+                                          const Qel32f* src4, Qel32f val, Qel32f* dst);
+
+QelStatus qelmIdentity_m4_32f(Qel32f* dst);
+QelStatus qelmTranslation_m4_32f(Qel32f x, Qel32f y, Qel32f z, Qel32f* dst);
+QelStatus qelmScaling_m4_32f(Qel32f x, Qel32f y, Qel32f z, Qel32f* dst);
+QelStatus qelmRotationX_m4_32f(Qel32f angle, Qel32f* dst);
+QelStatus qelmRotationY_m4_32f(Qel32f angle, Qel32f* dst);
+QelStatus qelmRotationZ_m4_32f(Qel32f angle, Qel32f* dst);
+QelStatus qelmRotationAxis_v3m4_32f(const Qel32f* axis, Qel32f angle, Qel32f* dst);
+QelStatus qelmRotationYawPitchRoll_m4_32f(Qel32f yaw, Qel32f pitch, Qel32f roll, Qel32f* dst);
+QelStatus qelmLookAtLH_m4_32f(const Qel32f* eye, const Qel32f* at, const Qel32f* up, Qel32f* dst);
+QelStatus qelmLookAtRH_m4_32f(const Qel32f* eye, const Qel32f* at, const Qel32f* up, Qel32f* dst);
+QelStatus qelmOrthoLH_m4_32f(Qel32f width, Qel32f height, Qel32f zNear, Qel32f zFar, Qel32f* dst);
+QelStatus qelmOrthoRH_m4_32f(Qel32f width, Qel32f height, Qel32f zNear, Qel32f zFar, Qel32f* dst);
+QelStatus qelmPerspectiveLH_m4_32f(Qel32f width, Qel32f height, Qel32f zNear, Qel32f zFar, Qel32f* dst);
+QelStatus qelmPerspectiveRH_m4_32f(Qel32f width, Qel32f height, Qel32f zNear, Qel32f zFar, Qel32f* dst);
+QelStatus qelmPerspectiveFovLH_m4_32f(Qel32f fovY, Qel32f aspect, Qel32f zNear, Qel32f zFar, Qel32f* dst);
+QelStatus qelmPerspectiveFovRH_m4_32f(Qel32f fovY, Qel32f aspect, Qel32f zNear, Qel32f zFar, Qel32f* dst);
+QelStatus qelmOrthoOffCenterLH_m4_32f(Qel32f left, Qel32f right, Qel32f bottom, Qel32f top, Qel32f zNear,
+                                      Qel32f zFar, Qel32f* dst);
+QelStatus qelmOrthoOffCenterRH_m4_32f(Qel32f left, Qel32f right, Qel32f bottom, Qel32f top, Qel32f zNear,
+                                      Qel32f zFar, Qel32f* dst);
+QelStatus qelmPerspectiveOffCenterLH_m4_32f(Qel32f left, Qel32f right, Qel32f bottom, Qel32f top, Qel32f zNear,
+                                            Qel32f zFar, Qel32f* dst);
+QelStatus qelmPerspectiveOffCenterRH_m4_32f(Qel32f left, Qel32f right, Qel32f bottom, Qel32f top, Qel32f zNear,
+                                            Qel32f zFar, Qel32f* dst);
+
+QelStatus qelmAffineTransform_m4v2_32f(const Qel32f* m, const Qel32f* src, Qel32f* dst);
+QelStatus qelmAffineTransform_m4v2a_32f(const Qel32f* m, const Qel32f* src, int srcStride, Qel32f* dst, int dstStride,
+                                        int count);
+QelStatus qelmAffineTransform_m4v3_32f(const Qel32f* m, const Qel32f* src, Qel32f* dst);
+QelStatus qelmAffineTransform_m4v3a_32f(const Qel32f* m, const Qel32f* src, int srcStride, Qel32f* dst, int dstStride,
+                                        int count);
+QelStatus qelmAffineTransform_m4v4_32f(const Qel32f* m, const Qel32f* src, Qel32f* dst);
+QelStatus qelmAffineTransform_m4v4a_32f(const Qel32f* m, const Qel32f* src, int srcStride, Qel32f* dst, int dstStride,
+                                        int count);
+QelStatus qelmAffineTransformCoord_m4v2_32f(const Qel32f* m, const Qel32f* src, Qel32f* dst);
+QelStatus qelmAffineTransformCoord_m4v2a_32f(const Qel32f* m, const Qel32f* src, int srcStride, Qel32f* dst, int dstStride,
+                                             int count);
+QelStatus qelmAffineTransformCoord_m4v3_32f(const Qel32f* m, const Qel32f* src, Qel32f* dst);
+QelStatus qelmAffineTransformCoord_m4v3a_32f(const Qel32f* m, const Qel32f* src, int srcStride, Qel32f* dst, int dstStride,
+                                             int count);
+QelStatus qelmAffineTransformNormal_m4v2_32f(const Qel32f* m, const Qel32f* src, Qel32f* dst);
+QelStatus qelmAffineTransformNormal_m4v2a_32f(const Qel32f* m, const Qel32f* src, int srcStride, Qel32f* dst, int dstStride,
+                                              int count);
+QelStatus qelmAffineTransformNormal_m4v3_32f(const Qel32f* m, const Qel32f* src, Qel32f* dst);
+QelStatus qelmAffineTransformNormal_m4v3a_32f(const Qel32f* m, const Qel32f* src, int srcStride, Qel32f* dst, int dstStride,
+                                              int count);
+QelStatus qelmProject_m4v3_32f(const Qel32f* projection, const Qel32f* view, const Qel32f* world, const Qel32f* src,
+                               Qel32f viewWidth, Qel32f viewHeight, Qel32f minZ, Qel32f maxZ, Qel32f* dst);
+QelStatus qelmProject_m4v3a_32f(const Qel32f* projection, const Qel32f* view, const Qel32f* world, const Qel32f* src,
+                                int srcStride, Qel32f viewWidth, Qel32f viewHeight, Qel32f minZ, Qel32f maxZ,
+                                Qel32f* dst, int dstStride, int count);
+QelStatus qelmUnproject_m4v3_32f(const Qel32f* projection, const Qel32f* view, const Qel32f* world, const Qel32f* src,
+                                 Qel32f viewWidth, Qel32f viewHeight, Qel32f minZ, Qel32f maxZ, Qel32f* dst);
+QelStatus qelmUnproject_m4v3a_32f(const Qel32f* projection, const Qel32f* view, const Qel32f* world, const Qel32f* src,
+                                  int srcStride, Qel32f viewWidth, Qel32f viewHeight, Qel32f minZ, Qel32f maxZ,
+                                  Qel32f* dst, int dstStride, int count);
+QelStatus qelmAffineTransform3DH_mva_32f(const Qel32f* src1, int src1Stride1, int src1Stride2, const Qel32f* src2,
+                                         int src2Stride0, int src2Stride2, Qel32f* dst, int dstStride0, int dstStride2,
+                                         int count);
+
+QelStatus qelmMul_mm4x4_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmMulTranspose_m4_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
+QelStatus qelmDet_m4_32f(const Qel32f* src, Qel32f* dst);
+QelStatus qelmInvert_m4_32f(const Qel32f* src, Qel32f* dstDet, Qel32f* dst);
+QelStatus qelmTranspose_m4_32f(const Qel32f* src, Qel32f* dst);
+QelStatus qelmIsIdentity_m4_32f(const Qel32f* src, Qel32s* dst);
+
 #ifdef __cplusplus
 }
 #endif
