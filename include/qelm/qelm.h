@@ -2202,6 +2202,199 @@ QelStatus qelmInvert_m4_32f(const Qel32f* src, Qel32f* dstDet, Qel32f* dst);
 QelStatus qelmTranspose_m4_32f(const Qel32f* src, Qel32f* dst);
 QelStatus qelmIsIdentity_m4_32f(const Qel32f* src, Qel32s* dst);
 
+/* ---- General eigenproblems: EigenValues, EigenValuesVectorsRight,
+ * EigenValuesVectorsLeft, EigenValuesVectors and the buffer-size queries.
+ *
+ * The matrix is reduced to Hessenberg form and driven to quasi-triangular form
+ * by a Francis double-shift QR iteration, without balancing and without
+ * sorting: eigenvalues leave in the order of their place on the final diagonal,
+ * a complex pair in neighbouring places, the positive imaginary part first.
+ * dstValuesRe and dstValuesIm are plain arrays of `size` values per matrix
+ * (elements n*size .. n*size+size-1 for matrix n of an array). `buffer` is the
+ * caller's scratch, as many bytes as the buffer-size query of the family
+ * answers; it is used on the serial path only. The iteration has a budget of
+ * 30*size sweeps per matrix: qelStatusNoConvergence when it runs out.
+ *
+ * The working matrix is the transpose of the source. So the Right family
+ * gives x with A^T x = lambda x (the source's left eigenvectors) and the Left
+ * family y with A conj(y) = lambda conj(y) (its right eigenvectors). Column j
+ * of a destination is vector j; a complex pair at j, j+1 stores the real part
+ * in column j and the imaginary part in column j+1 of the vector of
+ * dstValuesRe[j] + i dstValuesIm[j]. Every vector has unit Euclidean length.
+ * EigenValuesVectors writes the Right set to its first destination and the
+ * Left set to its second. A complex 2x2 system with a pivot below its limit
+ * answers qelStatusError; a real one ends the call with qelStatusOk and no
+ * vectors written for that matrix and the ones after it. */
+
+/* Buffer sizes in bytes: size*(size+5) elements for EigenValues,
+ * size*(3*size+5) for the three vector families. */
+QelStatus qelmEigenValuesGetBufSize_32f(int size, int* bufSize);
+QelStatus qelmEigenValuesGetBufSize_64f(int size, int* bufSize);
+QelStatus qelmEigenValuesVectorsGetBufSize_32f(int size, int* bufSize);
+QelStatus qelmEigenValuesVectorsGetBufSize_64f(int size, int* bufSize);
+
+QelStatus qelmEigenValues_m_32f(const Qel32f* src, int srcStride1, int srcStride2, Qel32f* dstValuesRe,
+                                Qel32f* dstValuesIm, int size, Qel32f* buffer);
+QelStatus qelmEigenValues_m_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32f* dstValuesRe,
+                                  Qel32f* dstValuesIm, int size, Qel32f* buffer);
+QelStatus qelmEigenValues_ma_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2,
+                                 Qel32f* dstValuesRe, Qel32f* dstValuesIm, int size, int count,
+                                 Qel32f* buffer);
+QelStatus qelmEigenValues_ma_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                                   Qel32f* dstValuesRe, Qel32f* dstValuesIm, int size, int count,
+                                   Qel32f* buffer);
+QelStatus qelmEigenValues_ma_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0,
+                                   Qel32f* dstValuesRe, Qel32f* dstValuesIm, int size, int count,
+                                   Qel32f* buffer);
+QelStatus qelmEigenValues_m_64f(const Qel64f* src, int srcStride1, int srcStride2, Qel64f* dstValuesRe,
+                                Qel64f* dstValuesIm, int size, Qel64f* buffer);
+QelStatus qelmEigenValues_m_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, Qel64f* dstValuesRe,
+                                  Qel64f* dstValuesIm, int size, Qel64f* buffer);
+QelStatus qelmEigenValues_ma_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2,
+                                 Qel64f* dstValuesRe, Qel64f* dstValuesIm, int size, int count,
+                                 Qel64f* buffer);
+QelStatus qelmEigenValues_ma_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                                   Qel64f* dstValuesRe, Qel64f* dstValuesIm, int size, int count,
+                                   Qel64f* buffer);
+QelStatus qelmEigenValues_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0,
+                                   Qel64f* dstValuesRe, Qel64f* dstValuesIm, int size, int count,
+                                   Qel64f* buffer);
+
+QelStatus qelmEigenValuesVectorsRight_m_32f(const Qel32f* src, int srcStride1, int srcStride2,
+                                            Qel32f* dstVectors, int dstStride1, int dstStride2,
+                                            Qel32f* dstValuesRe, Qel32f* dstValuesIm, int size,
+                                            Qel32f* buffer);
+QelStatus qelmEigenValuesVectorsRight_m_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift,
+                                              QEL_DST_LIST(Qel32f) dstVectors, int dstRoiShift,
+                                              Qel32f* dstValuesRe, Qel32f* dstValuesIm, int size,
+                                              Qel32f* buffer);
+QelStatus qelmEigenValuesVectorsRight_ma_32f(const Qel32f* src, int srcStride0, int srcStride1,
+                                             int srcStride2, Qel32f* dstVectors, int dstStride0,
+                                             int dstStride1, int dstStride2, Qel32f* dstValuesRe,
+                                             Qel32f* dstValuesIm, int size, int count, Qel32f* buffer);
+QelStatus qelmEigenValuesVectorsRight_ma_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1,
+                                               int srcStride2, QEL_DST_LIST(Qel32f) dstVectors,
+                                               int dstRoiShift, int dstStride1, int dstStride2,
+                                               Qel32f* dstValuesRe, Qel32f* dstValuesIm, int size, int count,
+                                               Qel32f* buffer);
+QelStatus qelmEigenValuesVectorsRight_ma_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0,
+                                               QEL_DST_LIST(Qel32f) dstVectors, int dstRoiShift,
+                                               int dstStride0, Qel32f* dstValuesRe, Qel32f* dstValuesIm,
+                                               int size, int count, Qel32f* buffer);
+QelStatus qelmEigenValuesVectorsRight_m_64f(const Qel64f* src, int srcStride1, int srcStride2,
+                                            Qel64f* dstVectors, int dstStride1, int dstStride2,
+                                            Qel64f* dstValuesRe, Qel64f* dstValuesIm, int size,
+                                            Qel64f* buffer);
+QelStatus qelmEigenValuesVectorsRight_m_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift,
+                                              QEL_DST_LIST(Qel64f) dstVectors, int dstRoiShift,
+                                              Qel64f* dstValuesRe, Qel64f* dstValuesIm, int size,
+                                              Qel64f* buffer);
+QelStatus qelmEigenValuesVectorsRight_ma_64f(const Qel64f* src, int srcStride0, int srcStride1,
+                                             int srcStride2, Qel64f* dstVectors, int dstStride0,
+                                             int dstStride1, int dstStride2, Qel64f* dstValuesRe,
+                                             Qel64f* dstValuesIm, int size, int count, Qel64f* buffer);
+QelStatus qelmEigenValuesVectorsRight_ma_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1,
+                                               int srcStride2, QEL_DST_LIST(Qel64f) dstVectors,
+                                               int dstRoiShift, int dstStride1, int dstStride2,
+                                               Qel64f* dstValuesRe, Qel64f* dstValuesIm, int size, int count,
+                                               Qel64f* buffer);
+QelStatus qelmEigenValuesVectorsRight_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0,
+                                               QEL_DST_LIST(Qel64f) dstVectors, int dstRoiShift,
+                                               int dstStride0, Qel64f* dstValuesRe, Qel64f* dstValuesIm,
+                                               int size, int count, Qel64f* buffer);
+
+QelStatus qelmEigenValuesVectorsLeft_m_32f(const Qel32f* src, int srcStride1, int srcStride2,
+                                           Qel32f* dstVectors, int dstStride1, int dstStride2,
+                                           Qel32f* dstValuesRe, Qel32f* dstValuesIm, int size,
+                                           Qel32f* buffer);
+QelStatus qelmEigenValuesVectorsLeft_m_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift,
+                                             QEL_DST_LIST(Qel32f) dstVectors, int dstRoiShift,
+                                             Qel32f* dstValuesRe, Qel32f* dstValuesIm, int size,
+                                             Qel32f* buffer);
+QelStatus qelmEigenValuesVectorsLeft_ma_32f(const Qel32f* src, int srcStride0, int srcStride1,
+                                            int srcStride2, Qel32f* dstVectors, int dstStride0,
+                                            int dstStride1, int dstStride2, Qel32f* dstValuesRe,
+                                            Qel32f* dstValuesIm, int size, int count, Qel32f* buffer);
+QelStatus qelmEigenValuesVectorsLeft_ma_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1,
+                                              int srcStride2, QEL_DST_LIST(Qel32f) dstVectors,
+                                              int dstRoiShift, int dstStride1, int dstStride2,
+                                              Qel32f* dstValuesRe, Qel32f* dstValuesIm, int size, int count,
+                                              Qel32f* buffer);
+QelStatus qelmEigenValuesVectorsLeft_ma_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0,
+                                              QEL_DST_LIST(Qel32f) dstVectors, int dstRoiShift,
+                                              int dstStride0, Qel32f* dstValuesRe, Qel32f* dstValuesIm,
+                                              int size, int count, Qel32f* buffer);
+QelStatus qelmEigenValuesVectorsLeft_m_64f(const Qel64f* src, int srcStride1, int srcStride2,
+                                           Qel64f* dstVectors, int dstStride1, int dstStride2,
+                                           Qel64f* dstValuesRe, Qel64f* dstValuesIm, int size,
+                                           Qel64f* buffer);
+QelStatus qelmEigenValuesVectorsLeft_m_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift,
+                                             QEL_DST_LIST(Qel64f) dstVectors, int dstRoiShift,
+                                             Qel64f* dstValuesRe, Qel64f* dstValuesIm, int size,
+                                             Qel64f* buffer);
+QelStatus qelmEigenValuesVectorsLeft_ma_64f(const Qel64f* src, int srcStride0, int srcStride1,
+                                            int srcStride2, Qel64f* dstVectors, int dstStride0,
+                                            int dstStride1, int dstStride2, Qel64f* dstValuesRe,
+                                            Qel64f* dstValuesIm, int size, int count, Qel64f* buffer);
+QelStatus qelmEigenValuesVectorsLeft_ma_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1,
+                                              int srcStride2, QEL_DST_LIST(Qel64f) dstVectors,
+                                              int dstRoiShift, int dstStride1, int dstStride2,
+                                              Qel64f* dstValuesRe, Qel64f* dstValuesIm, int size, int count,
+                                              Qel64f* buffer);
+QelStatus qelmEigenValuesVectorsLeft_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0,
+                                              QEL_DST_LIST(Qel64f) dstVectors, int dstRoiShift,
+                                              int dstStride0, Qel64f* dstValuesRe, Qel64f* dstValuesIm,
+                                              int size, int count, Qel64f* buffer);
+
+QelStatus qelmEigenValuesVectors_m_32f(const Qel32f* src, int srcStride1, int srcStride2,
+                                       Qel32f* dstVectorsRight, int dstRightStride1, int dstRightStride2,
+                                       Qel32f* dstVectorsLeft, int dstLeftStride1, int dstLeftStride2,
+                                       Qel32f* dstValuesRe, Qel32f* dstValuesIm, int size, Qel32f* buffer);
+QelStatus qelmEigenValuesVectors_m_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift,
+                                         QEL_DST_LIST(Qel32f) dstVectorsRight, int dstRightRoiShift,
+                                         QEL_DST_LIST(Qel32f) dstVectorsLeft, int dstLeftRoiShift,
+                                         Qel32f* dstValuesRe, Qel32f* dstValuesIm, int size, Qel32f* buffer);
+QelStatus qelmEigenValuesVectors_ma_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2,
+                                        Qel32f* dstVectorsRight, int dstRightStride0, int dstRightStride1,
+                                        int dstRightStride2, Qel32f* dstVectorsLeft, int dstLeftStride0,
+                                        int dstLeftStride1, int dstLeftStride2, Qel32f* dstValuesRe,
+                                        Qel32f* dstValuesIm, int size, int count, Qel32f* buffer);
+QelStatus qelmEigenValuesVectors_ma_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1,
+                                          int srcStride2, QEL_DST_LIST(Qel32f) dstVectorsRight,
+                                          int dstRightRoiShift, int dstRightStride1, int dstRightStride2,
+                                          QEL_DST_LIST(Qel32f) dstVectorsLeft, int dstLeftRoiShift,
+                                          int dstLeftStride1, int dstLeftStride2, Qel32f* dstValuesRe,
+                                          Qel32f* dstValuesIm, int size, int count, Qel32f* buffer);
+QelStatus qelmEigenValuesVectors_ma_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0,
+                                          QEL_DST_LIST(Qel32f) dstVectorsRight, int dstRightRoiShift,
+                                          int dstRightStride0, QEL_DST_LIST(Qel32f) dstVectorsLeft,
+                                          int dstLeftRoiShift, int dstLeftStride0, Qel32f* dstValuesRe,
+                                          Qel32f* dstValuesIm, int size, int count, Qel32f* buffer);
+QelStatus qelmEigenValuesVectors_m_64f(const Qel64f* src, int srcStride1, int srcStride2,
+                                       Qel64f* dstVectorsRight, int dstRightStride1, int dstRightStride2,
+                                       Qel64f* dstVectorsLeft, int dstLeftStride1, int dstLeftStride2,
+                                       Qel64f* dstValuesRe, Qel64f* dstValuesIm, int size, Qel64f* buffer);
+QelStatus qelmEigenValuesVectors_m_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift,
+                                         QEL_DST_LIST(Qel64f) dstVectorsRight, int dstRightRoiShift,
+                                         QEL_DST_LIST(Qel64f) dstVectorsLeft, int dstLeftRoiShift,
+                                         Qel64f* dstValuesRe, Qel64f* dstValuesIm, int size, Qel64f* buffer);
+QelStatus qelmEigenValuesVectors_ma_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2,
+                                        Qel64f* dstVectorsRight, int dstRightStride0, int dstRightStride1,
+                                        int dstRightStride2, Qel64f* dstVectorsLeft, int dstLeftStride0,
+                                        int dstLeftStride1, int dstLeftStride2, Qel64f* dstValuesRe,
+                                        Qel64f* dstValuesIm, int size, int count, Qel64f* buffer);
+QelStatus qelmEigenValuesVectors_ma_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1,
+                                          int srcStride2, QEL_DST_LIST(Qel64f) dstVectorsRight,
+                                          int dstRightRoiShift, int dstRightStride1, int dstRightStride2,
+                                          QEL_DST_LIST(Qel64f) dstVectorsLeft, int dstLeftRoiShift,
+                                          int dstLeftStride1, int dstLeftStride2, Qel64f* dstValuesRe,
+                                          Qel64f* dstValuesIm, int size, int count, Qel64f* buffer);
+QelStatus qelmEigenValuesVectors_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0,
+                                          QEL_DST_LIST(Qel64f) dstVectorsRight, int dstRightRoiShift,
+                                          int dstRightStride0, QEL_DST_LIST(Qel64f) dstVectorsLeft,
+                                          int dstLeftRoiShift, int dstLeftStride0, Qel64f* dstValuesRe,
+                                          Qel64f* dstValuesIm, int size, int count, Qel64f* buffer);
+
 #ifdef __cplusplus
 }
 #endif
