@@ -12,24 +12,22 @@ using namespace qel;
 
 // Minors of rows 0 and 1 on columns i < j, then the 3x3 minors of rows 0..2
 // expanded on row 2 (highest column first), and so on row by row. Each is
-// formed once and shared; the orders of the sums are part of the result.
-template <int N, class T>
+// formed once and shared; the orders of the sums are part of the result. Num
+// is an element or a register of objects side by side (Packed).
+template <int N, class Num>
 struct Expansion {
-  T a[N][N];
-  T m2[N][N];  // m2[i][j], i < j
-  T m3[N][N][N];
-  T m4[N][N][N][N];
+  const Num (&a)[N][N];
+  Num m2[N][N];  // m2[i][j], i < j
+  Num m3[N][N][N];
+  Num m4[N][N][N][N];
 
-  T minor3(int i, int j, int k) const {
+  Num minor3(int i, int j, int k) const {
     return (a[2][k] * m2[i][j] - a[2][j] * m2[i][k]) + a[2][i] * m2[j][k];
   }
-  T minor4(int i, int j, int k, int l) const {
+  Num minor4(int i, int j, int k, int l) const {
     return ((a[3][l] * m3[i][j][k] - a[3][k] * m3[i][j][l]) + a[3][j] * m3[i][k][l]) - a[3][i] * m3[j][k][l];
   }
-  template <class S>
-  void load(const S& s) {
-    for (int i = 0; i < N; ++i)
-      for (int j = 0; j < N; ++j) a[i][j] = s.at(i, j);
+  explicit Expansion(const Num (&x)[N][N]) : a(x) {
     for (int i = 0; i < N; ++i)
       for (int j = i + 1; j < N; ++j) m2[i][j] = a[0][i] * a[1][j] - a[0][j] * a[1][i];
     if constexpr (N >= 5) {
@@ -46,82 +44,87 @@ struct Expansion {
   }
 };
 
-template <class S>
-ElemT<S> det3(const S& s) {
-  using T = ElemT<S>;
-  Expansion<3, T> e;
-  e.load(s);
-  return e.minor3(0, 1, 2);
-}
-
-template <class S>
-ElemT<S> det4(const S& s) {
-  using T = ElemT<S>;
-  Expansion<4, T> e;
-  e.load(s);
-  const auto& a = e.a;
-  const auto& m = e.m2;
-  const T u3 = ((a[2][2] * m[0][1] - a[2][1] * m[0][2]) + a[2][0] * m[1][2]) * a[3][3];
-  const T u2 = ((m[0][1] * a[2][3] - a[2][1] * m[0][3]) + a[2][0] * m[1][3]) * a[3][2];
-  const T u1 = ((m[0][2] * a[2][3] - a[2][2] * m[0][3]) + a[2][0] * m[2][3]) * a[3][1];
-  const T u0 = (T(0) - a[3][0]) * ((m[1][2] * a[2][3] - m[1][3] * a[2][2]) + a[2][1] * m[2][3]);
-  return ((u3 - u2) + u0) + u1;
-}
-
 // The last row's terms in the column order given; sign (-1)^(row + column).
-template <int N, class T, class Minor>
-T lastRow(const T (&a)[N][N], const int (&order)[N], Minor minorWithout) {
-  T sum = T(0);
+template <int N, class Num, class Minor>
+Num lastRow(const Num (&a)[N][N], const int (&order)[N], Minor minorWithout) {
+  Num sum = Num(0);
   for (int q = 0; q < N; ++q) {
     const int c = order[q];
-    const T term = a[N - 1][c] * minorWithout(c);
+    const Num term = a[N - 1][c] * minorWithout(c);
     const bool minus = ((N - 1 + c) & 1) != 0;
-    if (q == 0) sum = minus ? T(0) - term : term;
+    if (q == 0) sum = minus ? Num(0) - term : term;
     else sum = minus ? sum - term : sum + term;
   }
   return sum;
 }
 
-template <class S>
-ElemT<S> det5(const S& s) {
-  using T = ElemT<S>;
-  Expansion<5, T> e;
-  e.load(s);
-  static constexpr int order[5] = {0, 3, 1, 2, 4};
-  return lastRow<5>(e.a, order, [&](int c) {
-    int k[4], n = 0;
-    for (int j = 0; j < 5; ++j)
-      if (j != c) k[n++] = j;
-    return e.minor4(k[0], k[1], k[2], k[3]);
-  });
+template <int N, class Num>
+Num closedDet(const Num (&a)[N][N]) {
+  const Expansion<N, Num> e(a);
+  const auto& m = e.m2;
+  if constexpr (N == 3) {
+    return e.minor3(0, 1, 2);
+  } else if constexpr (N == 4) {
+    const Num u3 = ((a[2][2] * m[0][1] - a[2][1] * m[0][2]) + a[2][0] * m[1][2]) * a[3][3];
+    const Num u2 = ((m[0][1] * a[2][3] - a[2][1] * m[0][3]) + a[2][0] * m[1][3]) * a[3][2];
+    const Num u1 = ((m[0][2] * a[2][3] - a[2][2] * m[0][3]) + a[2][0] * m[2][3]) * a[3][1];
+    const Num u0 = (Num(0) - a[3][0]) * ((m[1][2] * a[2][3] - m[1][3] * a[2][2]) + a[2][1] * m[2][3]);
+    return ((u3 - u2) + u0) + u1;
+  } else if constexpr (N == 5) {
+    static constexpr int order[5] = {0, 3, 1, 2, 4};
+    return lastRow<5>(a, order, [&](int c) {
+      int k[4], n = 0;
+      for (int j = 0; j < 5; ++j)
+        if (j != c) k[n++] = j;
+      return e.minor4(k[0], k[1], k[2], k[3]);
+    });
+  } else {
+    // The six 5x5 minors of rows 0..4, expanded on row 4, highest column first.
+    auto minor5 = [&](const int (&k)[5]) {
+      Num sum = Num(0);
+      for (int q = 4; q >= 0; --q) {
+        int r[4], n = 0;
+        for (int p = 0; p < 5; ++p)
+          if (p != q) r[n++] = k[p];
+        const Num term = a[4][k[q]] * e.m4[r[0]][r[1]][r[2]][r[3]];
+        if (q == 4) sum = term;
+        else sum = (q & 1) ? sum - term : sum + term;  // (-1)^(4 + q)
+      }
+      return sum;
+    };
+    static constexpr int order[6] = {0, 4, 1, 2, 3, 5};
+    return lastRow<6>(a, order, [&](int c) {
+      int k[5], n = 0;
+      for (int j = 0; j < 6; ++j)
+        if (j != c) k[n++] = j;
+      return minor5(k);
+    });
+  }
 }
 
-template <class S>
-ElemT<S> det6(const S& s) {
-  using T = ElemT<S>;
-  Expansion<6, T> e;
-  e.load(s);
-  // The six 5x5 minors of rows 0..4, expanded on row 4, highest column first.
-  auto minor5 = [&](const int (&k)[5]) {
-    T sum = T(0);
-    for (int q = 4; q >= 0; --q) {
-      int r[4], n = 0;
-      for (int p = 0; p < 5; ++p)
-        if (p != q) r[n++] = k[p];
-      const T term = e.a[4][k[q]] * e.m4[r[0]][r[1]][r[2]][r[3]];
-      const bool minus = (q & 1) != 0;  // (-1)^(4 + q)
-      if (q == 4) sum = term;
-      else sum = minus ? sum - term : sum + term;
+// An array at a closed order: L objects at a time in lanes when the objects
+// are a standard array, the rest one by one.
+template <int N, class S, class R>
+[[gnu::flatten]] void closedDetObjects(const S& src, const R& dst, int count) {
+  using T = ElemT<typename R::Object>;
+  constexpr int G = Lanes<T>::L;
+  int n = 0;
+  if (disjointObjects(src, {N, N}, dst, {1, 1}, count)) {
+    for (; n + G <= count; n += G) {
+      Packed<T> a[N][N];
+      loadLanes<N>(src, n, a);
+      alignas(16) T d[G];
+      Lanes<T>::storeAligned(d, closedDet<N>(a).v);
+      for (int g = 0; g < G; ++g) dst.object(n + g).at(0, 0) = d[g];
     }
-    return sum;
-  };
-  static constexpr int order[6] = {0, 4, 1, 2, 3, 5};
-  return lastRow<6>(e.a, order, [&](int c) {
-    int k[5], n = 0;
-    for (int j = 0; j < 6; ++j)
-      if (j != c) k[n++] = j;
-    return minor5(k);
-  });
+  }
+  for (; n < count; ++n) {
+    const auto s = src.object(n);
+    T a[N][N];
+    for (int i = 0; i < N; ++i)
+      for (int j = 0; j < N; ++j) a[i][j] = s.at(i, j);
+    dst.object(n).at(0, 0) = closedDet<N>(a);
+  }
 }
 
 // ---------------------------------------------------------------- general form
@@ -175,18 +178,15 @@ void detGeneral(const S& s, void* buffer, T& result, int n) {
 
 template <bool Exact0, class S, class R>
 QelStatus detObjects(S src, R dst, void* buffer, int size, int count) {
-  using SO = typename S::Object;
-  auto each = [&](auto form) {
-    for (int n = 0; n < count; ++n) form(src.object(n), dst.object(n).at(0, 0));
-    return qelStatusOk;
-  };
   switch (size) {
-    case 3: return each([](const SO& s, auto& r) { r = det3(s); });
-    case 4: return each([](const SO& s, auto& r) { r = det4(s); });
-    case 5: return each([](const SO& s, auto& r) { r = det5(s); });
-    case 6: return each([](const SO& s, auto& r) { r = det6(s); });
-    default: return each([&](const SO& s, auto& r) { detGeneral<Exact0>(s, buffer, r, size); });
+    case 3: closedDetObjects<3>(src, dst, count); break;
+    case 4: closedDetObjects<4>(src, dst, count); break;
+    case 5: closedDetObjects<5>(src, dst, count); break;
+    case 6: closedDetObjects<6>(src, dst, count); break;
+    default:
+      for (int n = 0; n < count; ++n) detGeneral<Exact0>(src.object(n), buffer, dst.object(n).at(0, 0), size);
   }
+  return qelStatusOk;
 }
 
 // One front-end for the ten exports: checks in `order` (the buffer among the

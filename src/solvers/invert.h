@@ -52,33 +52,78 @@ enum class InvertKernel { Plain, Array, ArrayP };
 template <class O>
 using ElemT = std::remove_const_t<std::remove_reference_t<decltype(std::declval<O>().at(0, 0))>>;
 
+// ---------------------------------------------------------------- numbers in lanes
+
+// One element of L objects side by side (four Qel32f, two Qel64f), with the
+// arithmetic of a scalar: a closed form written once over its number type runs
+// on one object or on L objects at once, with the same bits in every lane.
+template <class T>
+struct Packed {
+  using L = Lanes<T>;
+  using V = typename L::V;
+  V v;
+  Packed() = default;
+  Packed(T x) : v(L::splat(x)) {}  // NOLINT: constants convert implicitly
+  Packed(V x) : v(x) {}            // NOLINT
+  friend Packed operator+(Packed a, Packed b) { return L::add(a.v, b.v); }
+  friend Packed operator-(Packed a, Packed b) { return L::sub(a.v, b.v); }
+  friend Packed operator*(Packed a, Packed b) { return L::mul(a.v, b.v); }
+  friend Packed operator/(Packed a, Packed b) { return L::div(a.v, b.v); }
+};
+
+// The singular test of the fixed forms, tol > |det|, in any lane.
+template <class T>
+inline bool anyBelow(T tol, T det) { return tol > std::fabs(det); }
+template <class T>
+inline bool anyBelow(T tol, Packed<T> det) {
+  using L = Lanes<T>;
+  return L::anyLane(L::greater(L::splat(tol), L::abs(det.v)));
+}
+
+// Element (i, j) of objects n .. n+G-1 of an array as register (i, j), and back.
+template <int N, class T, class S>
+inline void loadLanes(const S& src, int n, Packed<T> (&a)[N][N]) {
+  using L = Lanes<T>;
+  constexpr int G = L::L, R = RowRegs<T, N>::R;
+  unroll<N>([&](auto i) {
+    typename L::V rows[G][R], cols[N];
+    unroll<G>([&](auto g) { loadRow<T, N>(src.object(n + g), i, rows[g]); });
+    rowsToLanes<T, N>(rows, cols);
+    unroll<N>([&](auto j) { a[i][j] = cols[j]; });
+  });
+}
+template <int N, class T, class D>
+inline void storeLanes(const D& dst, int n, const Packed<T> (&x)[N][N]) {
+  using L = Lanes<T>;
+  constexpr int G = L::L, R = RowRegs<T, N>::R;
+  unroll<N>([&](auto i) {
+    typename L::V rows[G][R], cols[N];
+    unroll<N>([&](auto j) { cols[j] = x[i][j].v; });
+    lanesToRows<T, N>(cols, rows);
+    unroll<G>([&](auto g) { storeRow<T, N>(dst.object(n + g), i, rows[g]); });
+  });
+}
+
 // ---------------------------------------------------------------- scalar adjugates
 
 // Order 3, in the order of additions the family fixes: the three products of
 // the first column summed as a20, a10, a00, or (the contiguous Qel64f kernel)
-// as a00, a20, a10.
-template <bool Order64, class S, class D>
-QelStatus inv3Scalar(const S& s, const D& d, ElemT<D> tol) {
-  using T = ElemT<D>;
-  const T a00 = s.at(0, 0), a01 = s.at(0, 1), a02 = s.at(0, 2);
-  const T a10 = s.at(1, 0), a11 = s.at(1, 1), a12 = s.at(1, 2);
-  const T a20 = s.at(2, 0), a21 = s.at(2, 1), a22 = s.at(2, 2);
-  const T p = a22 * a01 - a02 * a21, q = a22 * a11 - a12 * a21, sm = a12 * a01 - a02 * a11;
-  T det;
-  if constexpr (Order64) det = (a00 * q + a20 * sm) - a10 * p;
-  else det = (a20 * sm - a10 * p) + a00 * q;
-  if (tol > std::fabs(det)) return qelStatusSingular;
-  const T r = T(1) / det;
-  d.at(0, 0) = q * r;
-  d.at(0, 1) = (T(0) - p) * r;
-  d.at(0, 2) = sm * r;
-  d.at(1, 0) = (T(0) - (a22 * a10 - a12 * a20)) * r;
-  d.at(1, 1) = (a22 * a00 - a02 * a20) * r;
-  d.at(1, 2) = (T(0) - (a12 * a00 - a02 * a10)) * r;
-  d.at(2, 0) = (a21 * a10 - a11 * a20) * r;
-  d.at(2, 1) = (T(0) - (a21 * a00 - a20 * a01)) * r;
-  d.at(2, 2) = (a11 * a00 - a01 * a10) * r;
-  return qelStatusOk;
+// as a00, a20, a10. adj[j][i] is the cofactor of (i, j).
+template <bool Order64, class Num>
+Num adjugate3(const Num (&a)[3][3], Num (&adj)[3][3]) {
+  const Num p = a[2][2] * a[0][1] - a[0][2] * a[2][1], q = a[2][2] * a[1][1] - a[1][2] * a[2][1];
+  const Num s = a[1][2] * a[0][1] - a[0][2] * a[1][1];
+  adj[0][0] = q;
+  adj[0][1] = Num(0) - p;
+  adj[0][2] = s;
+  adj[1][0] = Num(0) - (a[2][2] * a[1][0] - a[1][2] * a[2][0]);
+  adj[1][1] = a[2][2] * a[0][0] - a[0][2] * a[2][0];
+  adj[1][2] = Num(0) - (a[1][2] * a[0][0] - a[0][2] * a[1][0]);
+  adj[2][0] = a[2][1] * a[1][0] - a[1][1] * a[2][0];
+  adj[2][1] = Num(0) - (a[2][1] * a[0][0] - a[2][0] * a[0][1]);
+  adj[2][2] = a[1][1] * a[0][0] - a[0][1] * a[1][0];
+  if constexpr (Order64) return (a[0][0] * q + a[2][0] * s) - a[1][0] * p;
+  else return (a[2][0] * s - a[1][0] * p) + a[0][0] * q;
 }
 
 // Orders 5 and 6: the minors of every row set on the column sets that an
@@ -97,69 +142,110 @@ struct MinorPlan {
   static constexpr int lowest(int skip, int start) { return start == skip ? start + 1 : start; }
 };
 
+// Laid out at compile time: every set, row set and term is a constant, so the
+// table lives in registers and the stack, not behind run-time indices.
 template <int N, class T>
-T adjugateN(const T (&a)[N][N], T (&cof)[N][N]) {
+[[gnu::flatten]] inline T adjugateN(const T (&a)[N][N], T (&cof)[N][N]) {
   using P = MinorPlan<N>;
   constexpr int M = P::M;
   // f[skip][start][rows]: only the row sets of the set's size are filled.
   T f[N + 1][N + 1][M];
-  for (int skip = 0; skip <= N; ++skip) f[skip][N][0] = T(1);
-  for (int start = N - 1; start >= 0; --start) {
-    for (int skip = 0; skip <= N; ++skip) {
-      if (skip < start && skip != N) continue;  // same as (N, start)
-      const int k = P::setSize(skip, start);
-      if (k == 0) {
-        f[skip][start][0] = T(1);
-        continue;
+  unroll<N>([&](auto back) {
+    constexpr int start = N - 1 - back;
+    unroll<N + 1>([&](auto skip) {
+      constexpr int k = P::setSize(skip, start);
+      if constexpr (skip >= start && k > 0) {  // a skip below start is (N, start)
+        constexpr int c = P::lowest(skip, start);
+        // The rest after column c: (skip, c + 1), or with skip passed (N, c + 1).
+        constexpr int restSkip = (skip < N && skip > c) ? int(skip) : N;
+        unroll<M>([&](auto rows) {
+          if constexpr (__builtin_popcount(unsigned(rows)) == k) {
+            T sum;
+            int pos = 0;
+            unroll<N>([&](auto r) {
+              if constexpr ((rows >> r) & 1) {
+                T term;
+                if constexpr (k == 1) term = a[r][c];
+                else term = a[r][c] * f[restSkip][c + 1][rows & ~(1 << r)];
+                if (pos == 0) sum = term;
+                else sum = (pos & 1) ? sum - term : sum + term;
+                ++pos;
+              }
+            });
+            f[skip][start][rows] = sum;
+          }
+        });
       }
-      const int c = P::lowest(skip, start);
-      // The rest after column c: (skip, c + 1), or with skip passed (N, c + 1).
-      const int restSkip = (skip < N && skip > c) ? skip : N;
-      const T(&rest)[M] = f[restSkip][c + 1];
-      for (int rows = 0; rows < M; ++rows) {
-        if (__builtin_popcount(unsigned(rows)) != k) continue;
-        T sum = T(0);
-        bool first = true, plus = true;
-        for (int r = 0; r < N; ++r) {
-          if (!(rows >> r & 1)) continue;
-          const T term = a[r][c] * rest[rows & ~(1 << r)];
-          if (first) sum = plus ? term : T(0) - term;
-          else sum = plus ? sum + term : sum - term;
-          first = false;
-          plus = !plus;
-        }
-        f[skip][start][rows] = sum;
-      }
-    }
-  }
-  const int all = M - 1;
-  for (int i = 0; i < N; ++i)
-    for (int j = 0; j < N; ++j) {
+    });
+  });
+  constexpr int all = M - 1;
+  unroll<N>([&](auto i) {
+    unroll<N>([&](auto j) {
       const T m = j == 0 ? f[N][1][all & ~(1 << i)] : f[j][0][all & ~(1 << i)];
       cof[i][j] = ((i + j) & 1) ? T(0) - m : m;
-    }
+    });
+  });
   T det = a[0][0] * cof[0][0];
   for (int i = 1; i < N; ++i) det = det + a[i][0] * cof[i][0];
   return det;
 }
 
-template <int N, class S, class D>
+template <int N, bool Order64, class Num>
+Num adjugateOf(const Num (&a)[N][N], Num (&adj)[N][N]) {
+  if constexpr (N == 3) {
+    return adjugate3<Order64>(a, adj);
+  } else {
+    Num cof[N][N], det;
+    if constexpr (N == 4) det = adjugate4<Num>([&](int i, int j) { return a[i][j]; }, cof);
+    else det = adjugateN<N>(a, cof);
+    for (int i = 0; i < N; ++i)
+      for (int j = 0; j < N; ++j) adj[j][i] = cof[i][j];
+    return det;
+  }
+}
+
+// One object: read whole, tested, then stored (dst may be src).
+template <int N, bool Order64, class S, class D>
 QelStatus invScalar(const S& s, const D& d, ElemT<D> tol) {
   using T = ElemT<D>;
-  T cof[N][N];
-  T det;
-  if constexpr (N == 4) {
-    det = adjugate4<T>([&](int i, int j) { return T(s.at(i, j)); }, cof);
-  } else {
-    T a[N][N];
-    for (int i = 0; i < N; ++i)
-      for (int j = 0; j < N; ++j) a[i][j] = s.at(i, j);
-    det = adjugateN<N>(a, cof);
-  }
+  T a[N][N], adj[N][N];
+  for (int i = 0; i < N; ++i)
+    for (int j = 0; j < N; ++j) a[i][j] = s.at(i, j);
+  const T det = adjugateOf<N, Order64>(a, adj);
   if (tol > std::fabs(det)) return qelStatusSingular;
   const T r = T(1) / det;
   for (int i = 0; i < N; ++i)
-    for (int j = 0; j < N; ++j) d.at(j, i) = cof[i][j] * r;
+    for (int j = 0; j < N; ++j) d.at(i, j) = adj[i][j] * r;
+  return qelStatusOk;
+}
+
+// An array: L objects at a time in lanes where no result can reach a later
+// source; a group with any determinant below the tolerance runs again object
+// by object, which stops where a loop of single objects stops.
+template <int N, bool Order64, class S, class D>
+[[gnu::flatten]] QelStatus invScalarObjects(const S& src, const D& dst, int count, ElemT<typename D::Object> tol) {
+  using T = ElemT<typename D::Object>;
+  using P = Packed<T>;
+  constexpr int G = Lanes<T>::L;
+  int n = 0;
+  if (independentObjects(src, {N, N}, dst, {N, N}, count)) {
+    for (; n + G <= count; n += G) {
+      P a[N][N], adj[N][N];
+      loadLanes<N>(src, n, a);
+      const P det = adjugateOf<N, Order64>(a, adj);
+      if (anyBelow(tol, det)) {
+        for (int g = 0; g < G; ++g)
+          if (QelStatus st = invScalar<N, Order64>(src.object(n + g), dst.object(n + g), tol)) return st;
+        continue;
+      }
+      const P r = P(T(1)) / det;
+      for (int i = 0; i < N; ++i)
+        for (int j = 0; j < N; ++j) adj[i][j] = adj[i][j] * r;
+      storeLanes<N>(dst, n, adj);
+    }
+  }
+  for (; n < count; ++n)
+    if (QelStatus st = invScalar<N, Order64>(src.object(n), dst.object(n), tol)) return st;
   return qelStatusOk;
 }
 
@@ -407,9 +493,9 @@ QelStatus invertObjects(S src, D dst, void* buffer, int size, int count) {
       if constexpr (f32 && contig && K != InvertKernel::Array)
         return each([](const SO& s, const DO& d) { return inv3Vector(s, d, units<float>(54)); });
       else if constexpr (!f32 && contig)
-        return each([](const SO& s, const DO& d) { return inv3Scalar<true>(s, d, units<T>(108)); });
+        return invScalarObjects<3, true>(src, dst, count, units<T>(108));
       else
-        return each([](const SO& s, const DO& d) { return inv3Scalar<false>(s, d, units<T>(54)); });
+        return invScalarObjects<3, false>(src, dst, count, units<T>(54));
     case 4:
       if constexpr (f32 && contig) {
         constexpr float tol = units<float>(128);
@@ -431,19 +517,18 @@ QelStatus invertObjects(S src, D dst, void* buffer, int size, int count) {
           if (QelStatus st = inv4Vector(src.object(n), dst.object(n), tol)) return st;
         return qelStatusOk;
       } else {
-        const T tol = units<T>(!f32 && contig ? 256 : 128);
-        return each([tol](const SO& s, const DO& d) { return invScalar<4>(s, d, tol); });
+        return invScalarObjects<4, false>(src, dst, count, units<T>(!f32 && contig ? 256 : 128));
       }
     case 5:
       if constexpr (f32 && contig)
         return each([](const SO& s, const DO& d) { return invBlock<5>(s, d, units<float>(250)); });
       else
-        return each([](const SO& s, const DO& d) { return invScalar<5>(s, d, units<T>(250)); });
+        return invScalarObjects<5, false>(src, dst, count, units<T>(250));
     case 6:
       if constexpr (f32 && contig)
         return each([](const SO& s, const DO& d) { return invBlock<6>(s, d, units<float>(432)); });
       else
-        return each([](const SO& s, const DO& d) { return invScalar<6>(s, d, units<T>(432)); });
+        return invScalarObjects<6, false>(src, dst, count, units<T>(432));
     default:
       return each([&](const SO& s, const DO& d) {
         return invertGeneral<K == InvertKernel::ArrayP>(s, d, buffer, size);
