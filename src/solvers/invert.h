@@ -69,11 +69,6 @@ struct Packed {
   friend Packed operator-(Packed a, Packed b) { return L::sub(a.v, b.v); }
   friend Packed operator*(Packed a, Packed b) { return L::mul(a.v, b.v); }
   friend Packed operator/(Packed a, Packed b) { return L::div(a.v, b.v); }
-  friend Packed operator-(Packed a) { return flipSign(a.v); }  // the sign bit alone, as a scalar -x
-
- private:
-  static __m128 flipSign(__m128 x) { return _mm_xor_ps(x, _mm_set1_ps(-0.0f)); }
-  static __m128d flipSign(__m128d x) { return _mm_xor_pd(x, _mm_set1_pd(-0.0)); }
 };
 
 // The singular test of the fixed forms, tol > |det|, in any lane.
@@ -307,45 +302,6 @@ QelStatus inv4Vector(const S& s, const D& d, float tol) {
   return qelStatusOk;
 }
 
-// The same cofactors as cofactors4x4, lane j of its registers written out as
-// element j: one object per lane, four objects for the work of one.
-template <class Num>
-Num cofactorsInLanes(const Num (&a)[4][4], Num (&cof)[4][4]) {
-  constexpr int lo[4] = {1, 0, 0, 0}, mid[4] = {2, 2, 1, 1}, hi[4] = {3, 3, 3, 2};
-  unroll<4>([&](auto j) {
-    constexpr int l = lo[j], m = mid[j], h = hi[j];
-    const Num s1 = a[2][m] * a[3][h] - a[2][h] * a[3][m], s2 = a[2][l] * a[3][h] - a[2][h] * a[3][l];
-    const Num s3 = a[2][l] * a[3][m] - a[2][m] * a[3][l];
-    const Num t1 = a[0][m] * a[1][h] - a[0][h] * a[1][m], t2 = a[0][l] * a[1][h] - a[0][h] * a[1][l];
-    const Num t3 = a[0][l] * a[1][m] - a[0][m] * a[1][l];
-    auto expand = [&](int row, Num x1, Num x2, Num x3) {
-      return (a[row][l] * x1 - a[row][m] * x2) + a[row][h] * x3;
-    };
-    const Num e0 = expand(1, s1, s2, s3), e1 = expand(0, s1, s2, s3);
-    const Num e2 = expand(3, t1, t2, t3), e3 = expand(2, t1, t2, t3);
-    cof[0][j] = j & 1 ? -e0 : e0;
-    cof[1][j] = j & 1 ? e1 : -e1;
-    cof[2][j] = j & 1 ? -e2 : e2;
-    cof[3][j] = j & 1 ? e3 : -e3;
-  });
-  return (a[0][0] * cof[0][0] + a[0][1] * cof[0][1]) + (a[0][2] * cof[0][2] + a[0][3] * cof[0][3]);
-}
-
-// Four contiguous Qel32f objects at a time; false, with nothing stored, when
-// any determinant is below the tolerance.
-template <class S, class D>
-[[gnu::flatten]] bool inv4VectorLanes(const S& src, const D& dst, int n, float tol) {
-  using P = Packed<float>;
-  P a[4][4], cof[4][4], x[4][4];
-  loadLanes<4>(src, n, a);
-  const P det = cofactorsInLanes(a, cof);
-  if (anyBelow(tol, det)) return false;
-  const P r = reciprocalEstimate(det.v);
-  unroll<4>([&](auto i) { unroll<4>([&](auto j) { x[i][j] = cof[j][i] * r; }); });
-  storeLanes<4>(dst, n, x);
-  return true;
-}
-
 // Two objects with the same formulas: the first determinant is tested first,
 // and neither object is stored unless both pass.
 template <class S, class D>
@@ -543,35 +499,23 @@ QelStatus invertObjects(S src, D dst, void* buffer, int size, int count) {
     case 4:
       if constexpr (f32 && contig) {
         constexpr float tol = units<float>(128);
-        bool pairs = false;
+        int n = 0;
         if constexpr (K == InvertKernel::Array) {
           // Two at a time on 16-byte rows of 16-byte aligned objects.
           const SO s0 = src.object(0);
           const DO d0 = dst.object(0);
-          pairs = ((reinterpret_cast<uintptr_t>(s0.base) | reinterpret_cast<uintptr_t>(d0.base) |
-                    uint32_t(src.s0) | uint32_t(dst.s0)) & 15) == 0 &&
-                  src.s1 == 16 && dst.s1 == 16;
-        }
-        // Objects n .. end - 1 as pairs where they may be, then one by one.
-        auto run = [&](int n, int end) -> QelStatus {
-          if (pairs)
-            for (; n + 1 < end; n += 2)
+          const bool aligned = ((reinterpret_cast<uintptr_t>(s0.base) | reinterpret_cast<uintptr_t>(d0.base) |
+                                 uint32_t(src.s0) | uint32_t(dst.s0)) & 15) == 0 &&
+                               src.s1 == 16 && dst.s1 == 16;
+          if (aligned)
+            for (; n + 1 < count; n += 2)
               if (QelStatus st = inv4VectorPair(src.object(n), dst.object(n), src.object(n + 1),
                                                 dst.object(n + 1), tol))
                 return st;
-          for (; n < end; ++n)
-            if (QelStatus st = inv4Vector(src.object(n), dst.object(n), tol)) return st;
-          return qelStatusOk;
-        };
-        int n = 0;
-        // Four at a time in lanes, the same bits; a group with a singular
-        // object runs again as pairs or single objects, which decide what is
-        // stored and where the call stops.
-        if (independentObjects(src, {4, 4}, dst, {4, 4}, count))
-          for (; n + 4 <= count; n += 4)
-            if (!inv4VectorLanes(src, dst, n, tol))
-              if (QelStatus st = run(n, n + 4)) return st;
-        return run(n, count);
+        }
+        for (; n < count; ++n)
+          if (QelStatus st = inv4Vector(src.object(n), dst.object(n), tol)) return st;
+        return qelStatusOk;
       } else {
         return invScalarObjects<4, false>(src, dst, count, units<T>(!f32 && contig ? 256 : 128));
       }
