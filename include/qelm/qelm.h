@@ -2395,6 +2395,56 @@ QelStatus qelmEigenValuesVectors_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiSh
                                           int dstLeftRoiShift, int dstLeftStride0, Qel64f* dstValuesRe,
                                           Qel64f* dstValuesIm, int size, int count, Qel64f* buffer);
 
+/* ---- Invert and Det. */
+
+/* Invert: the inverse as the adjugate over the determinant. `buffer` holds at
+ * least size*size + size elements (a work area, then size Qel32s row indices);
+ * it is used by orders 2 and 7 up only, yet may never be null. A singular
+ * matrix answers qelStatusSingular; an array stops at its first singular
+ * matrix. */
+QelStatus qelmInvert_m_32f(const Qel32f* src, int srcStride1, int srcStride2, Qel32f* buffer, Qel32f* dst,
+                           int dstStride1, int dstStride2, int size);
+QelStatus qelmInvert_m_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32f* buffer, QEL_DST_LIST(Qel32f) dst,
+                             int dstRoiShift, int size);
+QelStatus qelmInvert_ma_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2, Qel32f* buffer,
+                            Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int size, int count);
+QelStatus qelmInvert_ma_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                              Qel32f* buffer, QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1,
+                              int dstStride2, int size, int count);
+QelStatus qelmInvert_ma_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, Qel32f* buffer,
+                              QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int size, int count);
+QelStatus qelmInvert_m_64f(const Qel64f* src, int srcStride1, int srcStride2, Qel64f* buffer, Qel64f* dst,
+                           int dstStride1, int dstStride2, int size);
+QelStatus qelmInvert_m_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, Qel64f* buffer, QEL_DST_LIST(Qel64f) dst,
+                             int dstRoiShift, int size);
+QelStatus qelmInvert_ma_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2, Qel64f* buffer,
+                            Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int size, int count);
+QelStatus qelmInvert_ma_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                              Qel64f* buffer, QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1,
+                              int dstStride2, int size, int count);
+QelStatus qelmInvert_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, Qel64f* buffer,
+                              QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int size, int count);
+
+/* Det: the determinant of each matrix into dst (one element, or a packed array
+ * of `count` elements). `buffer` as for Invert. A singular matrix is no error:
+ * the status is qelStatusOk. */
+QelStatus qelmDet_m_32f(const Qel32f* src, int srcStride1, int srcStride2, int size, Qel32f* buffer, Qel32f* dst);
+QelStatus qelmDet_m_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int size, Qel32f* buffer, Qel32f* dst);
+QelStatus qelmDet_ma_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2, int size,
+                         Qel32f* buffer, Qel32f* dst, int count);
+QelStatus qelmDet_ma_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1, int srcStride2, int size,
+                           Qel32f* buffer, Qel32f* dst, int count);
+QelStatus qelmDet_ma_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, int size, Qel32f* buffer,
+                           Qel32f* dst, int count);
+QelStatus qelmDet_m_64f(const Qel64f* src, int srcStride1, int srcStride2, int size, Qel64f* buffer, Qel64f* dst);
+QelStatus qelmDet_m_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int size, Qel64f* buffer, Qel64f* dst);
+QelStatus qelmDet_ma_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2, int size,
+                         Qel64f* buffer, Qel64f* dst, int count);
+QelStatus qelmDet_ma_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1, int srcStride2, int size,
+                           Qel64f* buffer, Qel64f* dst, int count);
+QelStatus qelmDet_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, int size, Qel64f* buffer,
+                           Qel64f* dst, int count);
+
 #ifdef __cplusplus
 }
 #endif
