@@ -6,8 +6,10 @@
 #include <gtest/gtest.h>
 #include <qelm/qelm.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <tuple>
 #include <vector>
 
 #include "batch.h"
@@ -424,5 +426,307 @@ void sweepQr() {
 }
 TEST(QR, EveryExportInEveryDescription32f) { sweepQr<Qel32f>(); }
 TEST(QR, EveryExportInEveryDescription64f) { sweepQr<Qel64f>(); }
+
+
+// ------------------------------------------------------------------ edges
+template <class T>
+QelStatus factorOne(Call c, int n, Form form, std::vector<T> a, Batch<T>& o) {
+  Batch<T> in(n, n, 1, form);
+  setObject(in, 0, a);
+  return decomp(c, in, (T*)nullptr, o, n, n);
+}
+template <class T>
+std::vector<T> diagonal(int n, T d) {
+  std::vector<T> a(n * n, T(0));
+  for (int i = 0; i < n; ++i) a[i * n + i] = d;
+  return a;
+}
+
+template <class T>
+void choleskyIslands() {
+  auto st = [](Call c, int n, Form f, T d) {
+    Batch<T> o(n, n, 1, f);
+    return factorOne(c, n, f, diagonal(n, d), o);
+  };
+  const auto npd = qelStatusNotPositiveDefinite;
+  for (Call c : kDecomps) {
+    // The _P kernels at order 3 want more than 2^-23; everything else more than 0.
+    EXPECT_EQ(st(c, 3, Form::Packed, T(1e-9)), c.d == Ptr ? npd : qelStatusOk) << name(c);
+    EXPECT_EQ(st(c, 3, Form::Packed, T(0x1p-23)), c.d == Ptr ? npd : qelStatusOk) << name(c);
+    EXPECT_EQ(st(c, 3, Form::Packed, T(0x1.000002p-23)), qelStatusOk) << name(c);
+    EXPECT_EQ(st(c, 4, Form::Packed, T(1e-9)), qelStatusOk) << name(c);
+    for (int n : {1, 3, 6, 7}) EXPECT_EQ(st(c, n, Form::Packed, T(0)), npd) << name(c) << n;
+    // 2^-52 on the general-stride kernel of the strided Qel64f array, orders 6 and 1, 2, 7 up.
+    for (int n : {2, 5, 6, 7})
+      for (Form f : kForms)
+        EXPECT_EQ(st(c, n, f, T(1e-17)),
+                  sizeof(T) == 8 && c.s == MA && c.d == Std && f == Form::ElementGaps && n != 5 ? npd : qelStatusOk)
+            << name(c) << n << qt::formName(f);
+  }
+  // A NaN passes and spreads; size 1 is the reciprocal root.
+  Batch<T> o(1, 1, 1);
+  EXPECT_EQ(factorOne<T>({M, Std}, 1, Form::Packed, {T(NAN)}, o), qelStatusOk);
+  EXPECT_TRUE(std::isnan(o.get(0, 0, 0)));
+  EXPECT_EQ(factorOne<T>({M, Std}, 1, Form::Packed, {T(4)}, o), qelStatusOk);
+  EXPECT_NEAR(o.get(0, 0, 0), 0.5, sizeof(T) == 4 ? 1e-6 : 0);
+}
+TEST(Cholesky, ToleranceIslands32f) { choleskyIslands<Qel32f>(); }
+TEST(Cholesky, ToleranceIslands64f) { choleskyIslands<Qel64f>(); }
+
+// A failure at row i: rows above finished, row i's left part stored without
+// its diagonal, the rest untouched; the _P order 3 stores late.
+template <class T>
+void choleskyFailureStates() {
+  for (int n : {3, 4, 7})
+    for (int i = 0; i < n; ++i)
+      for (Call c : {Call{M, Std}, Call{M, Ptr}, Call{MA, List}}) {
+        auto a = diagonal(n, T(1));
+        for (int j = 0; j < i; ++j) a[i * n + j] = T(0.25);
+        a[i * n + i] = T(-1);
+        Batch<T> o(n, n, 1);
+        ASSERT_EQ(factorOne(c, n, Form::Packed, a, o), qelStatusNotPositiveDefinite);
+        const auto model = modelChol(a, n, T(c.d == Ptr && n == 3 ? 0x1p-23 : 0), c.d == Ptr && n == 3);
+        const auto got = object(o, 0);
+        for (int e = 0; e < n * n; ++e) ASSERT_EQ(!canary(got[e]), model.written[e]) << name(c) << n << " " << i << " @" << e;
+      }
+}
+TEST(Cholesky, FailureStates32f) { choleskyFailureStates<Qel32f>(); }
+TEST(Cholesky, FailureStates64f) { choleskyFailureStates<Qel64f>(); }
+
+TEST(QR, Edges) {
+  using T = Qel32f;
+  std::vector<T> buf(4);
+  auto one = [&](int w, int h, std::vector<T> a, Batch<T>& o) {
+    Batch<T> in(h, w, 1);
+    setObject(in, 0, a);
+    return decomp<T>({M, Std}, in, buf.data(), o, w, h);
+  };
+  // A vanished column: status, and column k untouched by step k.
+  Batch<T> o3(3, 3, 1), o2(2, 1, 1), o1(1, 1, 1), o4(4, 1, 1);
+  const std::vector<T> zeroFirst = {0, 1, 2, 0, 3, 4, 0, 5, 7};
+  EXPECT_EQ(one(3, 3, zeroFirst, o3), qelStatusDivideByZero);
+  EXPECT_TRUE(qt::sameBits(object(o3, 0), zeroFirst));
+  EXPECT_EQ(one(1, 2, {1e-4f, 0}, o2), qelStatusDivideByZero);
+  EXPECT_EQ(one(1, 2, {4e-4f, 0}, o2), qelStatusOk);
+  const std::vector<T> dependent = {1, 2, 2, 2, 4, 4, 3, 6, 1};  // second column twice the first
+  auto model = dependent;
+  EXPECT_EQ(modelQr(model, 3, 3), qelStatusDivideByZero);
+  EXPECT_EQ(one(3, 3, dependent, o3), qelStatusDivideByZero);
+  EXPECT_TRUE(qt::sameBits(object(o3, 0), model));
+  // 1 x 1 has no step; a zero head takes the negative root and a positive R.
+  EXPECT_EQ(one(1, 1, {0}, o1), qelStatusOk);
+  EXPECT_EQ(o1.get(0, 0, 0), 0.0f);
+  EXPECT_EQ(one(1, 4, {0, 3, 0, 4}, o4), qelStatusOk);
+  EXPECT_NEAR(o4.get(0, 0, 0), 5.0f, 1e-5);
+  // A zero diagonal of R runs into the solve: status 0, infinity.
+  Batch<T> f(3, 3, 1), b(1, 3, 1), x(1, 3, 1);
+  setObject(f, 0, {1, 0, 0, 0, 1, 0, 0, 0, 0});
+  b.fill(1);
+  EXPECT_EQ(solve<T>({MV, Std}, f, buf.data(), b, x, 3, 3), qelStatusOk);
+  EXPECT_TRUE(std::isinf(x.get(0, 0, 2)));
+}
+
+// The fixed solve forms leave the buffer alone, the general form uses it.
+TEST(QR, BufferUseBySize) {
+  using T = Qel64f;
+  for (auto [w, h, used] : {std::tuple{4, 4, false}, {3, 4, true}, {7, 7, true}})
+    for (Call c : kSolves) {
+      Batch<T> f(h, w, 2), b(1, h, 2), x(1, w, 2), buf(1, h, 1);
+      f.fillRandom(3);
+      b.fillRandom(4);
+      ASSERT_EQ(solve(c, f, buf.ptr(), b, x, w, h), qelStatusOk);
+      EXPECT_EQ(!buf.untouched(), used) << name(c) << w << "x" << h;
+    }
+}
+
+// ------------------------------------------------------------------ arrays
+// Four objects of which 1 and 3 fail, past the work limit: serially the run
+// stops at object 1; under two threads each share stops at its own failure
+// and the caller's buffer is left alone.
+template <class T>
+void stopsAndShares(bool qr) {
+  const int n = qr ? 19 : 23;  // 19*2*19*4 > 2800, 23*23*4 > 2000
+  for (int budget : {1, 2}) {
+    Batch<T> a(n, n, 4), o(n, n, 4), buf(1, n, 1);
+    for (int k = 0; k < 4; ++k) {
+      auto m = diagonal(n, T(k % 2 ? 0 : 2));  // odd objects fail at once
+      if (k % 2 == 0) m[n] = T(1);
+      setObject(a, k, m);
+    }
+    PinnedBudget pin(budget);
+    ASSERT_EQ(decomp<T>({MA, Std}, a, qr ? buf.ptr() : nullptr, o, n, n),
+              qr ? qelStatusDivideByZero : qelStatusNotPositiveDefinite);
+    EXPECT_EQ(pin.calls(), budget);
+    for (int k = 0; k < 4; ++k) {
+      auto model = object(a, k);
+      std::vector<bool> written(n * n, true);
+      if (qr) {
+        modelQr(model, n, n);
+      } else {
+        const auto m = modelChol(model, n, T(0), false);
+        model = m.f, written = m.written;
+      }
+      const auto got = object(o, k);
+      if (budget == 1 && k > 1) {
+        EXPECT_TRUE(std::all_of(got.begin(), got.end(), canary<T>)) << k;
+        continue;
+      }
+      for (int e = 0; e < n * n; ++e) {
+        if (!written[e] || (!qr && e % n > e / n)) {
+          ASSERT_TRUE(canary(got[e])) << k << " @" << e;
+        } else if (sizeof(T) == 8 || qr) {
+          ASSERT_EQ(got[e], model[e]) << k << " @" << e;
+        }
+      }
+    }
+    if (qr) EXPECT_EQ(buf.untouched(), budget == 2);
+  }
+}
+TEST(Cholesky, ArraysStopPerShare) { stopsAndShares<Qel64f>(false); }
+TEST(QR, ArraysStopPerShare) { stopsAndShares<Qel32f>(true); }
+
+// Work at the limit stays serial, one step above goes to the driver. Each
+// row: Cholesky or QR, factor (ma) or solve, the call, the stored form, the
+// sizes, and the counts on either side of the limit.
+struct Edge {
+  bool qr;
+  Call c;
+  Form f;
+  int w, h, serial, parallel;
+};
+template <class T>
+void workEdges(std::initializer_list<Edge> edges) {
+  for (const Edge& e : edges)
+    for (int count : {e.serial, e.parallel}) {
+      Batch<T> a(e.h, e.w, e.c.s == MVA ? 1 : count, e.f), o(e.h, e.w, count, e.f);
+      Batch<T> b(1, e.h, count, e.f), x(1, e.w, count, e.f);
+      std::vector<T> buf(e.h);
+      a.fill(0);
+      for (int k = 0; k < a.count(); ++k)
+        for (int i = 0; i < e.w; ++i) a.set(k, i, i, 1);
+      b.fill(1);
+      PinnedBudget pin(2);
+      T* bp = e.qr ? buf.data() : nullptr;
+      ASSERT_EQ(e.c.s == MA ? decomp(e.c, a, bp, o, e.w, e.h) : solve(e.c, a, bp, b, x, e.w, e.h), qelStatusOk);
+      EXPECT_EQ(pin.calls(), count == e.serial ? 0 : 2)
+          << (e.qr ? "QR " : "Cholesky ") << name(e.c) << qt::formName(e.f) << " count " << count;
+    }
+}
+const Form P = Form::Packed, G = Form::ElementGaps;
+TEST(CholeskyQR, WorkLimits32f) {
+  workEdges<Qel32f>({
+      {false, {MA, Std}, P, 2, 2, 1875, 1876}, {false, {MA, Std}, G, 2, 2, 1875, 1876},
+      {false, {MA, List}, P, 2, 2, 500, 501}, {false, {MA, Ptr}, P, 2, 2, 500, 501},
+      {false, {MVA, Std}, G, 2, 2, 299, 300}, {false, {MVA, List}, P, 2, 2, 179, 180},
+      {false, {MVA, Ptr}, P, 2, 2, 179, 180}, {false, {MAVA, Std}, P, 2, 2, 256, 257},
+      {false, {MAVA, Std}, G, 2, 2, 212, 213}, {false, {MAVA, List}, P, 2, 2, 212, 213},
+      {false, {MAVA, Ptr}, P, 2, 2, 212, 213},
+      {true, {MA, Std}, G, 1, 1, 1400, 1401}, {true, {MA, List}, P, 1, 1, 900, 901},
+      {true, {MA, Ptr}, P, 1, 1, 900, 901}, {true, {MVA, Std}, P, 2, 2, 699, 700},
+      {true, {MVA, List}, P, 2, 2, 449, 450}, {true, {MVA, Ptr}, P, 2, 2, 449, 450},
+      {true, {MAVA, Std}, P, 1, 2, 560, 561}, {true, {MAVA, List}, G, 1, 2, 360, 361},
+      {true, {MAVA, Ptr}, P, 1, 2, 360, 361},
+  });
+}
+TEST(CholeskyQR, WorkLimits64f) {
+  workEdges<Qel64f>({
+      {false, {MA, Std}, P, 2, 2, 500, 501}, {false, {MA, Std}, G, 2, 2, 500, 501},
+      {false, {MA, List}, P, 2, 2, 180, 181}, {false, {MA, List}, G, 2, 2, 500, 501},
+      {false, {MA, Ptr}, P, 2, 2, 500, 501}, {false, {MVA, Std}, P, 2, 2, 179, 180},
+      {false, {MVA, List}, G, 2, 2, 179, 180}, {false, {MVA, Ptr}, P, 2, 2, 179, 180},
+      {false, {MAVA, Std}, P, 2, 2, 212, 213}, {false, {MAVA, List}, P, 2, 2, 212, 213},
+      {false, {MAVA, Ptr}, P, 2, 2, 256, 257},
+      {true, {MA, Std}, P, 1, 1, 1400, 1401}, {true, {MA, List}, G, 1, 1, 900, 901},
+      {true, {MVA, Std}, G, 2, 2, 699, 700}, {true, {MAVA, Ptr}, P, 1, 2, 360, 361},
+  });
+  // Single objects never fork.
+  Batch<Qel64f> a(40, 40, 1), o(40, 40, 1);
+  for (int i = 0; i < 40; ++i) a.set(0, i, i, 1);
+  std::vector<Qel64f> buf(40);
+  PinnedBudget pin(2);
+  EXPECT_EQ(decomp<Qel64f>({M, Std}, a, nullptr, o, 40, 40) | decomp<Qel64f>({M, Std}, a, buf.data(), o, 40, 40), 0);
+  EXPECT_EQ(pin.calls(), 0);
+}
+
+// The same bits from one thread and from two.
+TEST(CholeskyQR, SameBitsAcrossBudgets) {
+  for (bool qr : {false, true}) {
+    Batch<Qel32f> a(4, 4, 600), o1(4, 4, 600), o2(4, 4, 600), b(1, 4, 600), x1(1, 4, 600), x2(1, 4, 600);
+    std::mt19937 rng(3);
+    for (int k = 0; k < 600; ++k) setObject(a, k, spd<Qel32f>(4, rng));
+    b.fillRandom(9);
+    std::vector<Qel32f> buf(4);
+    Qel32f* bp = qr ? buf.data() : nullptr;
+    for (int budget : {1, 2}) {
+      PinnedBudget pin(budget);
+      auto& o = budget == 1 ? o1 : o2;
+      auto& x = budget == 1 ? x1 : x2;
+      ASSERT_EQ(decomp<Qel32f>({MA, Std}, a, bp, o, 4, 4), qelStatusOk);
+      ASSERT_EQ(solve<Qel32f>({MAVA, List}, o, bp, b, x, 4, 4), qelStatusOk);
+      EXPECT_EQ(pin.calls(), 2 * budget);
+    }
+    EXPECT_TRUE(qt::sameBits(o1.values(), o2.values()));
+    EXPECT_TRUE(qt::sameBits(x1.values(), x2.values()));
+  }
+}
+
+// dst = src in the factors, src2 = dst in the solves, fixed and general forms.
+TEST(CholeskyQR, InPlace) {
+  using T = Qel64f;
+  for (bool qr : {false, true})
+    for (auto [w, h] : {std::pair{4, 4}, {9, 9}, {3, 7}}) {
+      if (!qr && w != h) continue;
+      Batch<T> a(h, w, 2), o(h, w, 2), b(1, h, 2), x(1, h, 2);
+      std::mt19937 rng(5);
+      a.fillRandom(2);
+      for (int k = 0; k < 2 && !qr; ++k) setObject(a, k, spd<T>(w, rng));
+      b.fillRandom(8);
+      std::vector<T> buf(h);
+      T* bp = qr ? buf.data() : nullptr;
+      ASSERT_EQ(decomp<T>({MA, Std}, a, bp, o, w, h), qelStatusOk);
+      ASSERT_EQ(decomp<T>({MA, Std}, a, bp, a, w, h), qelStatusOk);
+      for (int k = 0; k < 2; ++k)
+        for (int i = 0; i < h; ++i)
+          for (int j = 0; j <= (qr ? w - 1 : i); ++j) ASSERT_EQ(a.get(k, i, j), o.get(k, i, j));
+      ASSERT_EQ(solve<T>({MAVA, Std}, o, bp, b, x, w, h), qelStatusOk);
+      ASSERT_EQ(solve<T>({MAVA, Std}, o, bp, b, b, w, h), qelStatusOk);
+      for (int k = 0; k < 2; ++k)
+        for (int j = 0; j < w; ++j) ASSERT_EQ(b.get(k, 0, j), x.get(k, 0, j)) << qr << w << "x" << h;
+    }
+}
+
+// ------------------------------------------------------------------ checks
+TEST(CholeskyQR, ChecksInOrderAndWriteNothing) {
+  using T = Qel32f;
+  using E = Ex<T>;
+  Batch<T> a(3, 3, 2), b(1, 3, 2), x(1, 3, 2);
+  T buf[3];
+  auto* al = a.list();
+  auto* bl = b.list();
+  auto* xl = x.list();
+  const int e = 4;
+  // Cholesky mva_L: N S R Z C; mva standard: N C Z S.
+  EXPECT_EQ(E::cmvaL(a.ptr(), 12, e, nullptr, 0, e, xl, 0, e, 3, 2), qelStatusNullPointer);
+  EXPECT_EQ(E::cmvaL(a.ptr(), 12, e, bl, 0, 2, xl, 0, e, 0, 0), qelStatusBadStride);
+  EXPECT_EQ(E::cmvaL(a.ptr(), 12, e, bl, -4, e, xl, 0, e, 0, 0), qelStatusBadRoiShift);
+  EXPECT_EQ(E::cmvaL(a.ptr(), 12, e, bl, 0, e, xl, 0, e, 0, 0), qelStatusBadSize);
+  EXPECT_EQ(E::cmvaL(a.ptr(), 12, e, bl, 0, e, xl, 0, e, 3, 0), qelStatusBadCount);
+  EXPECT_EQ(E::cmva(a.ptr(), 12, e, b.ptr(), 12, e, x.ptr(), 12, 2, 0, 0), qelStatusBadCount);
+  EXPECT_EQ(E::cmva(a.ptr(), 12, e, b.ptr(), 12, e, x.ptr(), 12, 2, 0, 2), qelStatusBadSize);
+  EXPECT_EQ(E::cmvaP(a.elems(), 0, b.elems(), 2, 12, x.elems(), 0, 12, 3, 2), qelStatusBadRoiShift);
+  EXPECT_EQ(E::cmaL(al, 0, 12, e, al, 0, 12, 6, 3, 2), qelStatusBadStride);
+  EXPECT_EQ(E::cmP(a.elems(), 6, a.elems(), 0, 3), qelStatusBadRoiShift);
+  EXPECT_EQ(E::cm(a.ptr(), 12, e, a.ptr(), 0, e, 0), qelStatusBadSize);
+  // QR: N C Z S R M, the buffer among the pointers, the mismatch last.
+  EXPECT_EQ(E::qm(a.ptr(), 12, e, nullptr, a.ptr(), 12, e, 3, 3), qelStatusNullPointer);
+  EXPECT_EQ(E::qm(a.ptr(), 12, 2, buf, a.ptr(), 12, e, 4, 3), qelStatusBadStride);
+  EXPECT_EQ(E::qm(a.ptr(), 12, e, buf, a.ptr(), 12, e, 4, 3), qelStatusSizeMismatch);
+  EXPECT_EQ(E::qmaL(al, 2, 12, e, buf, al, 0, 12, e, 4, 3, 2), qelStatusBadRoiShift);
+  EXPECT_EQ(E::qmaP(a.elems(), 0, 36, buf, a.elems(), 0, 36, 4, 0, 2), qelStatusBadSize);
+  EXPECT_EQ(E::qmvaL(a.ptr(), 12, e, buf, bl, 0, e, xl, 0, e, 3, 3, 0), qelStatusBadCount);
+  EXPECT_EQ(E::qmava(a.ptr(), 36, 12, e, buf, b.ptr(), 12, e, x.ptr(), 12, e, 4, 3, 2), qelStatusSizeMismatch);
+  EXPECT_EQ(E::qmvP(a.elems(), 0, buf, b.elems(), 0, x.elems(), 0, 4, 3), qelStatusSizeMismatch);
+  EXPECT_TRUE(a.untouched() && b.untouched() && x.untouched());
+}
 
 }  // namespace
