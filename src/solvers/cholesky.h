@@ -66,14 +66,18 @@ QelStatus cholFixed(S a, D d, T tol) {
   auto store = [&](int i) {
     for (int j = 0; j <= i; ++j) d.at(i, j) = l[i][j];
   };
+#pragma GCC unroll 6
   for (int i = 0; i < N; ++i) {
+#pragma GCC unroll 6
     for (int j = 0; j < i; ++j) {
       T s = a.at(i, j);
+#pragma GCC unroll 6
       for (int k = 0; k < j; ++k) s = s - l[i][k] * l[j][k];
       l[i][j] = s * l[j][j];
       if (!Late) d.at(i, j) = l[i][j];
     }
     T s = a.at(i, i);
+#pragma GCC unroll 6
     for (int k = 0; k < i; ++k) s = s - l[i][k] * l[i][k];
     if (tol >= s) return qelStatusNotPositiveDefinite;  // a NaN passes
     l[i][i] = cholReciprocalRoot(s);

@@ -4,8 +4,9 @@
 // implied. Reflector k maps b to b + beta v (v . b), beta = -2 / (v . v). A
 // square matrix has no reflector for its last column.
 //
-//   qrFactor         one form for every size, working in dst, v in the buffer;
-//                    sums of 8 terms or more take the split accumulators.
+//   qrFactor         one form for every size, v in the buffer; sums of 8 terms
+//                    or more take the split accumulators. Square orders 3..6
+//                    run the same steps on a private copy, unrolled.
 //   qrSolveGeneral   b copied into the buffer, the reflectors applied with
 //                    their sums taken anew, back substitution by division.
 //   qrSolveFixed     square orders 3..6 in locals, the buffer untouched: the
@@ -13,12 +14,14 @@
 //                    of each reflector carried into the back substitution.
 #pragma once
 
+#include "../frame/lanes.h"
 #include "../frame/sums.h"
 #include "../frame/views.h"
 #include "qelm/qelmtypes.h"
 #include "solve_shape.h"
 
 #include <cmath>
+#include <type_traits>
 
 namespace qel {
 
@@ -26,50 +29,155 @@ namespace qel {
 template <class T>
 constexpr double qrTolerance = sizeof(T) == 4 ? 0x1p-23 : 0x1p-52;
 
-inline int qrSteps(int width, int height) { return width == height ? width - 1 : width; }
+inline int qrReflectors(int width, int height) { return width == height ? width - 1 : width; }
 
 // ------------------------------------------------------------- factor
 
+// The steps on a working matrix w(i, j), v built in the buffer and read back
+// from `vl` (the buffer itself, or a private copy of it for fixed sizes).
 // The test and the root of a Qel32f column work on its sum widened to double.
-template <class T, class S, class D>
-QelStatus qrFactor(S src, D d, T* v, int n, int m) {
-  for (int i = 0; i < m; ++i)
-    for (int j = 0; j < n; ++j) d.at(i, j) = src.at(i, j);
-  const int steps = qrSteps(n, m);
+// N, M: compile-time width and height, or 0 for the sizes given.
+template <int N, int M, class T, class W>
+inline QelStatus qrSteps(W w, T* v, T* vl, int nr, int mr) {
+  const int n = N ? N : nr, m = M ? M : mr;
+  const int steps = qrReflectors(n, m);
+#pragma GCC unroll 6
   for (int k = 0; k < steps; ++k) {
     const int tail = m - k - 1;
     const T s = splitSumFrom(T(0), m - k, gatheredTerms<T>([&](int q) {
-                               const T e = d.at(k + q, k);
+                               const T e = w(k + q, k);
                                return T(e * e);
                              }));
     const double wide = s;
     if (qrTolerance<T> > std::fabs(wide)) return qelStatusDivideByZero;  // a NaN passes
-    const T head = d.at(k, k);
+    const T head = w(k, k);
     T r = T(std::sqrt(wide));
     if (!(head > 0)) r = -r;  // a zero or NaN head takes the negative root
     const T h = T(1) / (head + r);
-    v[k] = 1;
-    for (int i = k + 1; i < m; ++i) v[i] = d.at(i, k) * h;
-    const T q = splitSumFrom(T(1), tail, gatheredTerms<T>([&](int p) { return T(v[k + 1 + p] * v[k + 1 + p]); }));
+    v[k] = vl[k] = 1;
+#pragma GCC unroll 6
+    for (int i = k + 1; i < m; ++i) v[i] = vl[i] = w(i, k) * h;
+    const T q = splitSumFrom(T(1), tail, gatheredTerms<T>([&](int p) { return T(vl[k + 1 + p] * vl[k + 1 + p]); }));
     const T beta = T(-2) / q;
+#pragma GCC unroll 6
     for (int j = k; j < n; ++j) {
-      T t = splitSumFrom(T(d.at(k, j)), tail,
-                         gatheredTerms<T>([&](int p) { return T(d.at(k + 1 + p, j) * v[k + 1 + p]); }));
+      T t = splitSumFrom(T(w(k, j)), tail, gatheredTerms<T>([&](int p) { return T(w(k + 1 + p, j) * vl[k + 1 + p]); }));
       t = t * beta;
-      for (int i = k; i < m; ++i) d.at(i, j) = v[i] * t + d.at(i, j);
+#pragma GCC unroll 6
+      for (int i = k; i < m; ++i) w(i, j) = vl[i] * t + w(i, j);
     }
-    for (int i = k + 1; i < m; ++i) d.at(i, k) = v[i];
+#pragma GCC unroll 6
+    for (int i = k + 1; i < m; ++i) w(i, k) = vl[i];
   }
   return qelStatusOk;
+}
+
+// Any shape, working in dst after the copy.
+template <class T, class S, class D>
+QelStatus qrFactor(S src, D d, T* v, int n, int m) {
+  for (int i = 0; i < m; ++i)
+    for (int j = 0; j < n; ++j) d.at(i, j) = src.at(i, j);
+  return qrSteps<0, 0>([&](int i, int j) -> T& { return d.at(i, j); }, v, v, n, m);
+}
+
+// Square orders 3..6 in a private copy, stored whole whatever the status:
+// what dst holds is what the steps in place would have left.
+template <int N, class T, class S, class D>
+QelStatus qrFactorFixed(S src, D d, T* v) {
+  T w[N][N], vl[N];
+  for (int i = 0; i < N; ++i)
+    for (int j = 0; j < N; ++j) w[i][j] = src.at(i, j);
+  const QelStatus st = qrSteps<N, N>([&](int i, int j) -> T& { return w[i][j]; }, v, vl, N, N);
+  for (int i = 0; i < N; ++i)
+    for (int j = 0; j < N; ++j) d.at(i, j) = w[i][j];
+  return st;
+}
+
+// Square orders 3..6, one object per lane (four Qel32f, two Qel64f): the same
+// steps as qrSteps in every lane, sums under 8 terms so plain. The Qel32f
+// root is taken in single precision: rounding the double root to single gives
+// the correctly rounded single root, so the bits are those of the widened
+// form. Nothing is stored unless every column of every lane passes; false
+// then, and the caller runs the objects one at a time.
+template <int N, class S, class D, class T>
+[[gnu::flatten]] bool qrFactorLanes(S src, D dst, T* buffer, int n0) {
+  using L = Lanes<T>;
+  using V = typename L::V;
+  constexpr int G = L::L;
+  constexpr int R = RowRegs<T, N>::R;
+  V w[N][N], vl[N];
+  unroll<N>([&](auto i) {
+    V rows[G][R];
+    unroll<G>([&](auto g) { loadRow<T, N>(src.object(n0 + g), i, rows[g]); });
+    rowsToLanes<T, N>(rows, w[i]);
+  });
+  const V sign = L::splat(T(-0.0)), zero = L::zero();
+  V bad = zero;
+  unroll<N - 1>([&](auto k) {
+    V s = L::mul(w[k][k], w[k][k]);
+    unroll<N - 1 - k>([&](auto p) { s = L::add(s, L::mul(w[k + 1 + p][k], w[k + 1 + p][k])); });
+    bad = L::either(bad, L::greater(L::splat(T(qrTolerance<T>)), L::abs(s)));
+    const V root = L::sqrt(s);
+    const V negRoot = G == 4 ? V(_mm_xor_ps(__m128(root), __m128(sign))) : V(_mm_xor_pd(__m128d(root), __m128d(sign)));
+    const V head = w[k][k];
+    const V h = L::div(L::splat(T(1)), L::add(head, L::select(L::greater(head, zero), root, negRoot)));
+    V q = L::splat(T(1));
+    unroll<N - 1 - k>([&](auto p) {
+      vl[k + 1 + p] = L::mul(w[k + 1 + p][k], h);
+      q = L::add(q, L::mul(vl[k + 1 + p], vl[k + 1 + p]));
+    });
+    const V beta = L::div(L::splat(T(-2)), q);
+    unroll<N - k>([&](auto jj) {
+      constexpr int j = k + jj;
+      V t = w[k][j];
+      unroll<N - 1 - k>([&](auto p) { t = L::add(t, L::mul(w[k + 1 + p][j], vl[k + 1 + p])); });
+      t = L::mul(t, beta);
+      w[k][j] = L::add(t, w[k][j]);  // the head of v is 1
+      unroll<N - 1 - k>([&](auto p) { w[k + 1 + p][j] = L::add(L::mul(vl[k + 1 + p], t), w[k + 1 + p][j]); });
+    });
+    unroll<N - 1 - k>([&](auto p) { w[k + 1 + p][k] = vl[k + 1 + p]; });
+  });
+  if (L::anyLane(bad)) return false;
+  unroll<N>([&](auto i) {
+    V rows[G][R];
+    lanesToRows<T, N>(w[i], rows);
+    unroll<G>([&](auto g) { storeRow<T, N>(dst.object(n0 + g), i, rows[g]); });
+  });
+  // The buffer ends as the serial steps leave it for the last object.
+  alignas(16) T last[G];
+  if constexpr (G == 4) _mm_store_ps(last, vl[N - 1]);
+  else _mm_store_pd(last, vl[N - 1]);
+  buffer[N - 2] = 1;
+  buffer[N - 1] = last[G - 1];
+  return true;
 }
 
 // The serial kernel: each object copied and reduced in turn, the first
 // failure ending the run.
 template <class S, class D, class T>
 QelStatus qrObjects(S src, D dst, T* buffer, int width, int height, int count) {
-  for (int o = 0; o < count; ++o)
-    if (QelStatus st = qrFactor(src.object(o), dst.object(o), buffer, width, height)) return st;
-  return qelStatusOk;
+  auto general = [&]() -> QelStatus {
+    for (int o = 0; o < count; ++o)
+      if (QelStatus st = qrFactor(src.object(o), dst.object(o), buffer, width, height)) return st;
+    return qelStatusOk;
+  };
+  if (width != height) return general();
+  return bySize(
+      width,
+      [&](auto order) -> QelStatus {
+        constexpr int N = decltype(order)::value;
+        constexpr int G = Lanes<std::remove_const_t<typename D::Object::Elem>>::L;
+        int o = 0;
+        if (independentObjects(src, {N, N}, dst, {N, N}, count))
+          for (; o + G <= count; o += G)
+            if (!qrFactorLanes<N>(src, dst, buffer, o))
+              for (int g = 0; g < G; ++g)
+                if (QelStatus st = qrFactorFixed<N>(src.object(o + g), dst.object(o + g), buffer)) return st;
+        for (; o < count; ++o)
+          if (QelStatus st = qrFactorFixed<N>(src.object(o), dst.object(o), buffer)) return st;
+        return qelStatusOk;
+      },
+      general);
 }
 
 // ------------------------------------------------------------- solve
@@ -77,7 +185,7 @@ QelStatus qrObjects(S src, D dst, T* buffer, int width, int height, int count) {
 template <class M, class B, class X, class T>
 void qrSolveGeneral(M a, B b, X x, T* w, int n, int m) {
   for (int i = 0; i < m; ++i) w[i] = b.at(0, i);
-  const int steps = qrSteps(n, m);
+  const int steps = qrReflectors(n, m);
   for (int k = 0; k < steps; ++k) {
     T q = 1, p = w[k];
     for (int i = k + 1; i < m; ++i) {
