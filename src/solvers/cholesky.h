@@ -10,12 +10,13 @@
 //            take the split accumulators, the backward terms in ascending j.
 #pragma once
 
+#include "../frame/lanes.h"
 #include "../frame/sums.h"
 #include "../frame/views.h"
 #include "qelm/qelmtypes.h"
 #include "solve_shape.h"
 
-#include <xmmintrin.h>
+#include <smmintrin.h>
 
 #include <cmath>
 
@@ -93,6 +94,57 @@ QelStatus cholFixed(S a, D d, T tol) {
   return qelStatusOk;
 }
 
+// Orders 3..6 on contiguous rows, one object per lane (four Qel32f, two
+// Qel64f): the steps of cholFixed in every lane, the same estimate and Newton
+// step in Qel32f. Only the lower triangle is stored, and nothing unless every
+// lane passes; false then, and the caller runs the objects one at a time.
+template <int N, class S, class D, class T>
+[[gnu::flatten]] bool cholFixedLanes(S src, D dst, int n0, T tol) {
+  using L = Lanes<T>;
+  using V = typename L::V;
+  constexpr int G = L::L;
+  constexpr int R = RowRegs<T, N>::R;
+  V a[N][N], l[N][N] = {};  // l above the diagonal stays zero, never stored
+  unroll<N>([&](auto i) {
+    V rows[G][R];
+    unroll<G>([&](auto g) { loadRow<T, N>(src.object(n0 + g), i, rows[g]); });
+    rowsToLanes<T, N>(rows, a[i]);
+  });
+  auto root = [](V s) {
+    if constexpr (G == 4) {
+      const V y = _mm_rsqrt_ps(s);
+      return L::mul(L::mul(y, L::sub(L::mul(L::mul(s, y), y), L::splat(3.0f))), L::splat(-0.5f));
+    } else {
+      return L::div(L::splat(1.0), L::sqrt(s));
+    }
+  };
+  V bad = L::zero();
+  unroll<N>([&](auto i) {
+    unroll<i>([&](auto j) {
+      V s = a[i][j];
+      unroll<j>([&](auto k) { s = L::sub(s, L::mul(l[i][k], l[j][k])); });
+      l[i][j] = L::mul(s, l[j][j]);
+    });
+    V s = a[i][i];
+    unroll<i>([&](auto k) { s = L::sub(s, L::mul(l[i][k], l[i][k])); });
+    if constexpr (G == 4) bad = L::either(bad, _mm_cmpge_ps(L::splat(tol), s));  // a NaN passes
+    else bad = L::either(bad, _mm_cmpge_pd(L::splat(tol), s));
+    l[i][i] = root(s);
+  });
+  if (L::anyLane(bad)) return false;
+  unroll<N>([&](auto i) {
+    V rows[G][R];
+    lanesToRows<T, N>(l[i], rows);
+    unroll<G>([&](auto g) {
+      alignas(16) T e[R * G];
+      unroll<R>([&](auto r) { L::storeAligned(&e[r * G], rows[g][r]); });
+      const auto d = dst.object(n0 + g);
+      for (int j = 0; j <= i; ++j) d.at(i, j) = e[j];
+    });
+  });
+  return true;
+}
+
 // Any order, in dst: rows above i are read back from it.
 template <class T, class S, class D>
 QelStatus cholGeneral(S a, D d, int n, T tol) {
@@ -125,7 +177,16 @@ QelStatus cholObjects(S src, D dst, int size, int count) {
       [&](auto order) -> QelStatus {
         constexpr int N = decltype(order)::value;
         const T t = tol.at(N);
-        for (int o = 0; o < count; ++o)
+        int o = 0;
+        if constexpr (rowsContiguous<typename S::Object> && rowsContiguous<O>) {
+          constexpr int G = Lanes<T>::L;
+          if (independentObjects(src, {N, N}, dst, {N, N}, count))
+            for (; o + G <= count; o += G)
+              if (!cholFixedLanes<N>(src, dst, o, t))
+                for (int g = 0; g < G; ++g)
+                  if (QelStatus st = cholFixed<N, false>(src.object(o + g), dst.object(o + g), t)) return st;
+        }
+        for (; o < count; ++o)
           if (QelStatus st = cholFixed<N, pointer && N == 3>(src.object(o), dst.object(o), t)) return st;
         return qelStatusOk;
       },
