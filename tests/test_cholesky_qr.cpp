@@ -369,7 +369,7 @@ void sweepCholesky() {
         }
         if (c.s != MA || c.d != Std) continue;
         for (Call sc : kSolves) {
-          const int cnt = sc.s == MV ? 1 : 3;
+          const int cnt = sc.s == MV ? 1 : 5;
           Batch<T> b(1, n, cnt, form), x(1, n, cnt, form);
           b.fillRandom(11 + n);
           ASSERT_EQ(solve(sc, o, (T*)nullptr, b, x, n, n), qelStatusOk) << what << name(sc);
@@ -410,7 +410,7 @@ void sweepQr() {
         }
         if (c.s != MA || c.d != Std) continue;
         for (Call sc : kSolves) {
-          const int cnt = sc.s == MV ? 1 : 3;
+          const int cnt = sc.s == MV ? 1 : 5;
           Batch<T> b(1, h, cnt, form), x(1, w, cnt, form);
           b.fillRandom(5 + h);
           ASSERT_EQ(solve(sc, o, buf.data(), b, x, w, h), qelStatusOk) << what << name(sc);

@@ -207,7 +207,8 @@ void qrSolveGeneral(M a, B b, X x, T* w, int n, int m) {
 
 // A square factor of order N in locals with the betas of its reflectors.
 // Order 3 sums as (row 1, head, row 2); orders 4..6 take the last row's term
-// first, then the head, then the other rows in ascending order.
+// first, then the head, then the other rows in ascending order. T is the
+// element type, or LaneValue for one object per lane.
 template <int N, class T>
 struct QrHeld {
   T a[N][N];
@@ -221,10 +222,14 @@ struct QrHeld {
     return s;
   }
 
+  QrHeld() = default;
   template <class M>
   explicit QrHeld(M m) {
     for (int i = 0; i < N; ++i)
       for (int j = 0; j < N; ++j) a[i][j] = m.at(i, j);
+    prepare();
+  }
+  void prepare() {
     for (int k = 0; k < N - 1; ++k)
       beta[k] = T(-2) / reflectorSum(k, T(1), [&](int i) { return T(a[i][k] * a[i][k]); });
   }
@@ -232,17 +237,15 @@ struct QrHeld {
 
 // The head's update t(k) is left out of c(k) and added in the back
 // substitution: row N-2 as (c - a x(N-1)) + t, rows above as (t + c) minus
-// the terms in descending j; true divisions. x is stored last, so b may be x.
-template <int N, class T, class B, class X>
-void qrSolveHeld(const QrHeld<N, T>& f, B b, X x) {
+// the terms in descending j; true divisions. c is b on entry, x is y.
+template <int N, class T>
+inline void qrSolveCore(const QrHeld<N, T>& f, T (&c)[N], T (&y)[N]) {
   const auto& a = f.a;
-  T c[N], t[N - 1];
-  for (int i = 0; i < N; ++i) c[i] = b.at(0, i);
+  T t[N - 1];
   for (int k = 0; k < N - 1; ++k) {
     t[k] = QrHeld<N, T>::reflectorSum(k, c[k], [&](int i) { return T(c[i] * a[i][k]); }) * f.beta[k];
     for (int i = k + 1; i < N; ++i) c[i] = c[i] + a[i][k] * t[k];
   }
-  T y[N];
   y[N - 1] = c[N - 1] / a[N - 1][N - 1];
   y[N - 2] = ((c[N - 2] - a[N - 2][N - 1] * y[N - 1]) + t[N - 2]) / a[N - 2][N - 2];
   for (int k = N - 3; k >= 0; --k) {
@@ -250,7 +253,46 @@ void qrSolveHeld(const QrHeld<N, T>& f, B b, X x) {
     for (int j = N - 1; j > k; --j) s = s - a[k][j] * y[j];
     y[k] = s / a[k][k];
   }
+}
+
+// x is stored last, so b may be x.
+template <int N, class T, class B, class X>
+void qrSolveHeld(const QrHeld<N, T>& f, B b, X x) {
+  T c[N], y[N];
+  for (int i = 0; i < N; ++i) c[i] = b.at(0, i);
+  qrSolveCore(f, c, y);
   for (int k = 0; k < N; ++k) x.at(0, k) = y[k];
+}
+
+// mava on contiguous rows: one object per lane, the steps of qrSolveHeld.
+template <int N, class A, class B, class X>
+[[gnu::flatten]] void qrSolveLanes(A a, B b, X x, int n0) {
+  using T = ElemOf<typename X::Object>;
+  using L = Lanes<T>;
+  using V = typename L::V;
+  constexpr int G = L::L;
+  constexpr int R = RowRegs<T, N>::R;
+  using P = LaneValue<T>;
+  auto gather = [&](auto view, int i, V (&cols)[N]) {
+    V rows[G][R];
+    unroll<G>([&](auto g) { loadRow<T, N>(view(n0 + g), i, rows[g]); });
+    rowsToLanes<T, N>(rows, cols);
+  };
+  QrHeld<N, P> f;
+  V cols[N];
+  for (int i = 0; i < N; ++i) {
+    gather([&](int o) { return a.object(o); }, i, cols);
+    for (int j = 0; j < N; ++j) f.a[i][j] = cols[j];
+  }
+  f.prepare();
+  P c[N], y[N];
+  gather([&](int o) { return b.object(o); }, 0, cols);
+  for (int j = 0; j < N; ++j) c[j] = cols[j];
+  qrSolveCore(f, c, y);
+  for (int j = 0; j < N; ++j) cols[j] = y[j].v;
+  V rows[G][R];
+  lanesToRows<T, N>(cols, rows);
+  unroll<G>([&](auto g) { storeRow<T, N>(x.object(n0 + g), 0, rows[g]); });
 }
 
 // The serial kernel of every shape. Square orders 3..6 take the fixed form
@@ -270,7 +312,14 @@ QelStatus qrSolveObjects(A a, B b, X x, T* buffer, int width, int height, int co
       [&](auto order) {
         constexpr int N = decltype(order)::value;
         if constexpr (Shape == SolveShape::Mava) {
-          for (int o = 0; o < count; ++o) qrSolveHeld(QrHeld<N, T>(a.object(o)), b.object(o), x.object(o));
+          int o = 0;
+          if constexpr (rowsContiguous<typename A::Object> && rowsContiguous<typename B::Object> &&
+                        rowsContiguous<typename X::Object>) {
+            constexpr int G = Lanes<T>::L;
+            if (independentObjects(b, {1, N}, x, {1, N}, count) && independentObjects(a, {N, N}, x, {1, N}, count))
+              for (; o + G <= count; o += G) qrSolveLanes<N>(a, b, x, o);
+          }
+          for (; o < count; ++o) qrSolveHeld(QrHeld<N, T>(a.object(o)), b.object(o), x.object(o));
         } else {
           const QrHeld<N, T> f(a.object(0));
           for (int o = 0; o < count; ++o) qrSolveHeld(f, b.object(o), x.object(o));
