@@ -19,6 +19,7 @@
 #include <smmintrin.h>
 
 #include <cmath>
+#include <type_traits>
 
 namespace qel {
 
@@ -94,8 +95,8 @@ QelStatus cholFixed(S a, D d, T tol) {
   return qelStatusOk;
 }
 
-// Orders 3..6 on contiguous rows, one object per lane (four Qel32f, two
-// Qel64f): the steps of cholFixed in every lane, the same estimate and Newton
+// Orders 3..6 on contiguous rows, one object per lane (four Qel32f; two
+// Qel64f would fit, but gain nothing): the steps of cholFixed in every lane, the same estimate and Newton
 // step in Qel32f. Only the lower triangle is stored, and nothing unless every
 // lane passes; false then, and the caller runs the objects one at a time.
 template <int N, class S, class D, class T>
@@ -178,7 +179,8 @@ QelStatus cholObjects(S src, D dst, int size, int count) {
         constexpr int N = decltype(order)::value;
         const T t = tol.at(N);
         int o = 0;
-        if constexpr (rowsContiguous<typename S::Object> && rowsContiguous<O>) {
+        // Qel64f pairs gain nothing over two objects in flight one by one.
+        if constexpr (std::is_same_v<T, float> && rowsContiguous<typename S::Object> && rowsContiguous<O>) {
           constexpr int G = Lanes<T>::L;
           if (independentObjects(src, {N, N}, dst, {N, N}, count))
             for (; o + G <= count; o += G)
