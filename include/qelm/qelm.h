@@ -2012,9 +2012,11 @@ QelStatus qelmLComb_vava_64f_P(QEL_SRC_LIST(Qel64f) src1, int src1RoiShift, int 
 
 /* ---- CholeskyDecomp and CholeskyBackSubst. */
 /* CholeskyDecomp: A = L L^T for a symmetric positive definite A, read on and below its
-   diagonal. dst holds L below the diagonal and 1 / L(i,i) on it; its upper triangle is
-   neither read nor written. CholeskyBackSubst solves A x = b (src2 = b, dst = x) with that
-   factor. In mva one factor serves every right-hand side. */
+ * diagonal. dst holds L below the diagonal and 1 / L(i,i) on it; its upper triangle is
+ * neither read nor written. A value under a root at or below the tolerance answers
+ * qelStatusNotPositiveDefinite; an array stops at its first such matrix.
+ * CholeskyBackSubst solves A x = b (src2 = b, dst = x) with that factor. In mva one
+ * factor serves every right-hand side. */
 QelStatus qelmCholeskyDecomp_m_32f(const Qel32f* src, int srcStride1, int srcStride2, Qel32f* dst, int dstStride1,
                                    int dstStride2, int size);
 QelStatus qelmCholeskyDecomp_m_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, QEL_DST_LIST(Qel32f) dst,
@@ -2090,10 +2092,11 @@ QelStatus qelmCholeskyBackSubst_mava_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiS
 
 /* ---- QRDecomp and QRBackSubst. */
 /* QRDecomp: Householder QR of a height x width matrix, height >= width. dst holds R on
-   and above the diagonal and the tails of the reflectors below it (their heads, 1, are
-   implied). QRBackSubst solves R x = Q^T b (src2 = b of height elements, dst = x of width),
-   the least-squares solution when height > width. buffer: height elements of scratch,
-   never null. */
+ * and above the diagonal and the tails of the reflectors below it (their heads, 1, are
+ * implied). A column that has vanished below the diagonal answers qelStatusDivideByZero.
+ * QRBackSubst solves R x = Q^T b (src2 = b of height elements, dst = x of width), the
+ * least-squares solution when height > width. buffer: height elements of scratch, never
+ * null; a call that forks leaves it alone. */
 QelStatus qelmQRDecomp_m_32f(const Qel32f* src, int srcStride1, int srcStride2, Qel32f* buffer, Qel32f* dst,
                              int dstStride1, int dstStride2, int width, int height);
 QelStatus qelmQRDecomp_m_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32f* buffer, QEL_DST_LIST(Qel32f) dst,
