@@ -2445,6 +2445,176 @@ QelStatus qelmDet_ma_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStr
 QelStatus qelmDet_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, int size, Qel64f* buffer,
                            Qel64f* dst, int count);
 
+/* ---- CholeskyDecomp and CholeskyBackSubst. */
+/* CholeskyDecomp: A = L L^T for a symmetric positive definite A, read on and below its
+ * diagonal. dst holds L below the diagonal and 1 / L(i,i) on it; its upper triangle is
+ * neither read nor written. A value under a root at or below the tolerance answers
+ * qelStatusNotPositiveDefinite; an array stops at its first such matrix.
+ * CholeskyBackSubst solves A x = b (src2 = b, dst = x) with that factor. In mva one
+ * factor serves every right-hand side. */
+QelStatus qelmCholeskyDecomp_m_32f(const Qel32f* src, int srcStride1, int srcStride2, Qel32f* dst, int dstStride1,
+                                   int dstStride2, int size);
+QelStatus qelmCholeskyDecomp_m_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, QEL_DST_LIST(Qel32f) dst,
+                                     int dstRoiShift, int size);
+QelStatus qelmCholeskyDecomp_ma_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2, Qel32f* dst,
+                                    int dstStride0, int dstStride1, int dstStride2, int size, int count);
+QelStatus qelmCholeskyDecomp_ma_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                                      QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1, int dstStride2,
+                                      int size, int count);
+QelStatus qelmCholeskyDecomp_ma_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0,
+                                      QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int size, int count);
+QelStatus qelmCholeskyBackSubst_mv_32f(const Qel32f* src, int srcStride1, int srcStride2, const Qel32f* src2,
+                                       int src2Stride2, Qel32f* dst, int dstStride2, int size);
+QelStatus qelmCholeskyBackSubst_mv_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, QEL_SRC_LIST(Qel32f) src2,
+                                         int src2RoiShift, QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int size);
+QelStatus qelmCholeskyBackSubst_mva_32f(const Qel32f* src, int srcStride1, int srcStride2, const Qel32f* src2,
+                                        int src2Stride0, int src2Stride2, Qel32f* dst, int dstStride0, int dstStride2,
+                                        int size, int count);
+QelStatus qelmCholeskyBackSubst_mva_32f_L(const Qel32f* src, int srcStride1, int srcStride2,
+                                          QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride2,
+                                          QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int size,
+                                          int count);
+QelStatus qelmCholeskyBackSubst_mva_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, QEL_SRC_LIST(Qel32f) src2,
+                                          int src2RoiShift, int src2Stride0, QEL_DST_LIST(Qel32f) dst,
+                                          int dstRoiShift, int dstStride0, int size, int count);
+QelStatus qelmCholeskyBackSubst_mava_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2,
+                                         const Qel32f* src2, int src2Stride0, int src2Stride2, Qel32f* dst,
+                                         int dstStride0, int dstStride2, int size, int count);
+QelStatus qelmCholeskyBackSubst_mava_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                                           QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride2,
+                                           QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int size,
+                                           int count);
+QelStatus qelmCholeskyBackSubst_mava_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0,
+                                           QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0,
+                                           QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int size,
+                                           int count);
+QelStatus qelmCholeskyDecomp_m_64f(const Qel64f* src, int srcStride1, int srcStride2, Qel64f* dst, int dstStride1,
+                                   int dstStride2, int size);
+QelStatus qelmCholeskyDecomp_m_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, QEL_DST_LIST(Qel64f) dst,
+                                     int dstRoiShift, int size);
+QelStatus qelmCholeskyDecomp_ma_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2, Qel64f* dst,
+                                    int dstStride0, int dstStride1, int dstStride2, int size, int count);
+QelStatus qelmCholeskyDecomp_ma_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                                      QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1, int dstStride2,
+                                      int size, int count);
+QelStatus qelmCholeskyDecomp_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0,
+                                      QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int size, int count);
+QelStatus qelmCholeskyBackSubst_mv_64f(const Qel64f* src, int srcStride1, int srcStride2, const Qel64f* src2,
+                                       int src2Stride2, Qel64f* dst, int dstStride2, int size);
+QelStatus qelmCholeskyBackSubst_mv_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, QEL_SRC_LIST(Qel64f) src2,
+                                         int src2RoiShift, QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int size);
+QelStatus qelmCholeskyBackSubst_mva_64f(const Qel64f* src, int srcStride1, int srcStride2, const Qel64f* src2,
+                                        int src2Stride0, int src2Stride2, Qel64f* dst, int dstStride0, int dstStride2,
+                                        int size, int count);
+QelStatus qelmCholeskyBackSubst_mva_64f_L(const Qel64f* src, int srcStride1, int srcStride2,
+                                          QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride2,
+                                          QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int size,
+                                          int count);
+QelStatus qelmCholeskyBackSubst_mva_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, QEL_SRC_LIST(Qel64f) src2,
+                                          int src2RoiShift, int src2Stride0, QEL_DST_LIST(Qel64f) dst,
+                                          int dstRoiShift, int dstStride0, int size, int count);
+QelStatus qelmCholeskyBackSubst_mava_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2,
+                                         const Qel64f* src2, int src2Stride0, int src2Stride2, Qel64f* dst,
+                                         int dstStride0, int dstStride2, int size, int count);
+QelStatus qelmCholeskyBackSubst_mava_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                                           QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride2,
+                                           QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int size,
+                                           int count);
+QelStatus qelmCholeskyBackSubst_mava_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0,
+                                           QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0,
+                                           QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int size,
+                                           int count);
+
+/* ---- QRDecomp and QRBackSubst. */
+/* QRDecomp: Householder QR of a height x width matrix, height >= width. dst holds R on
+ * and above the diagonal and the tails of the reflectors below it (their heads, 1, are
+ * implied). A column that has vanished below the diagonal answers qelStatusDivideByZero.
+ * QRBackSubst solves R x = Q^T b (src2 = b of height elements, dst = x of width), the
+ * least-squares solution when height > width. buffer: height elements of scratch, never
+ * null; a call that forks leaves it alone. */
+QelStatus qelmQRDecomp_m_32f(const Qel32f* src, int srcStride1, int srcStride2, Qel32f* buffer, Qel32f* dst,
+                             int dstStride1, int dstStride2, int width, int height);
+QelStatus qelmQRDecomp_m_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32f* buffer, QEL_DST_LIST(Qel32f) dst,
+                               int dstRoiShift, int width, int height);
+QelStatus qelmQRDecomp_ma_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2, Qel32f* buffer,
+                              Qel32f* dst, int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                              int count);
+QelStatus qelmQRDecomp_ma_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                                Qel32f* buffer, QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride1,
+                                int dstStride2, int width, int height, int count);
+QelStatus qelmQRDecomp_ma_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, Qel32f* buffer,
+                                QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int width, int height,
+                                int count);
+QelStatus qelmQRBackSubst_mv_32f(const Qel32f* src, int srcStride1, int srcStride2, Qel32f* buffer,
+                                 const Qel32f* src2, int src2Stride2, Qel32f* dst, int dstStride2, int width,
+                                 int height);
+QelStatus qelmQRBackSubst_mv_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32f* buffer,
+                                   QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, QEL_DST_LIST(Qel32f) dst,
+                                   int dstRoiShift, int width, int height);
+QelStatus qelmQRBackSubst_mva_32f(const Qel32f* src, int srcStride1, int srcStride2, Qel32f* buffer,
+                                  const Qel32f* src2, int src2Stride0, int src2Stride2, Qel32f* dst, int dstStride0,
+                                  int dstStride2, int width, int height, int count);
+QelStatus qelmQRBackSubst_mva_32f_L(const Qel32f* src, int srcStride1, int srcStride2, Qel32f* buffer,
+                                    QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride2,
+                                    QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int width, int height,
+                                    int count);
+QelStatus qelmQRBackSubst_mva_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, Qel32f* buffer,
+                                    QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0,
+                                    QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int width, int height,
+                                    int count);
+QelStatus qelmQRBackSubst_mava_32f(const Qel32f* src, int srcStride0, int srcStride1, int srcStride2, Qel32f* buffer,
+                                   const Qel32f* src2, int src2Stride0, int src2Stride2, Qel32f* dst, int dstStride0,
+                                   int dstStride2, int width, int height, int count);
+QelStatus qelmQRBackSubst_mava_32f_L(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                                     Qel32f* buffer, QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride2,
+                                     QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride2, int width, int height,
+                                     int count);
+QelStatus qelmQRBackSubst_mava_32f_P(QEL_SRC_LIST(Qel32f) src, int srcRoiShift, int srcStride0, Qel32f* buffer,
+                                     QEL_SRC_LIST(Qel32f) src2, int src2RoiShift, int src2Stride0,
+                                     QEL_DST_LIST(Qel32f) dst, int dstRoiShift, int dstStride0, int width, int height,
+                                     int count);
+QelStatus qelmQRDecomp_m_64f(const Qel64f* src, int srcStride1, int srcStride2, Qel64f* buffer, Qel64f* dst,
+                             int dstStride1, int dstStride2, int width, int height);
+QelStatus qelmQRDecomp_m_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, Qel64f* buffer, QEL_DST_LIST(Qel64f) dst,
+                               int dstRoiShift, int width, int height);
+QelStatus qelmQRDecomp_ma_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2, Qel64f* buffer,
+                              Qel64f* dst, int dstStride0, int dstStride1, int dstStride2, int width, int height,
+                              int count);
+QelStatus qelmQRDecomp_ma_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                                Qel64f* buffer, QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride1,
+                                int dstStride2, int width, int height, int count);
+QelStatus qelmQRDecomp_ma_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, Qel64f* buffer,
+                                QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int width, int height,
+                                int count);
+QelStatus qelmQRBackSubst_mv_64f(const Qel64f* src, int srcStride1, int srcStride2, Qel64f* buffer,
+                                 const Qel64f* src2, int src2Stride2, Qel64f* dst, int dstStride2, int width,
+                                 int height);
+QelStatus qelmQRBackSubst_mv_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, Qel64f* buffer,
+                                   QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, QEL_DST_LIST(Qel64f) dst,
+                                   int dstRoiShift, int width, int height);
+QelStatus qelmQRBackSubst_mva_64f(const Qel64f* src, int srcStride1, int srcStride2, Qel64f* buffer,
+                                  const Qel64f* src2, int src2Stride0, int src2Stride2, Qel64f* dst, int dstStride0,
+                                  int dstStride2, int width, int height, int count);
+QelStatus qelmQRBackSubst_mva_64f_L(const Qel64f* src, int srcStride1, int srcStride2, Qel64f* buffer,
+                                    QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride2,
+                                    QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int width, int height,
+                                    int count);
+QelStatus qelmQRBackSubst_mva_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, Qel64f* buffer,
+                                    QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0,
+                                    QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int width, int height,
+                                    int count);
+QelStatus qelmQRBackSubst_mava_64f(const Qel64f* src, int srcStride0, int srcStride1, int srcStride2, Qel64f* buffer,
+                                   const Qel64f* src2, int src2Stride0, int src2Stride2, Qel64f* dst, int dstStride0,
+                                   int dstStride2, int width, int height, int count);
+QelStatus qelmQRBackSubst_mava_64f_L(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride1, int srcStride2,
+                                     Qel64f* buffer, QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride2,
+                                     QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride2, int width, int height,
+                                     int count);
+QelStatus qelmQRBackSubst_mava_64f_P(QEL_SRC_LIST(Qel64f) src, int srcRoiShift, int srcStride0, Qel64f* buffer,
+                                     QEL_SRC_LIST(Qel64f) src2, int src2RoiShift, int src2Stride0,
+                                     QEL_DST_LIST(Qel64f) dst, int dstRoiShift, int dstStride0, int width, int height,
+                                     int count);
+
 #ifdef __cplusplus
 }
 #endif

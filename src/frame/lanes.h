@@ -188,6 +188,21 @@ inline void storeRow(const O& o, int i, const typename Lanes<T>::V (&c)[RowRegs<
 
 // ---------------------------------------------------------------- objects in lanes
 
+// One value of every lane, with the element type's arithmetic lane by lane, so
+// that a scalar form written over T runs unchanged on L objects at once.
+template <class T>
+struct LaneValue {
+  using S = Lanes<T>;
+  typename S::V v;
+  LaneValue() = default;
+  LaneValue(typename S::V x) : v(x) {}  // NOLINT: registers convert implicitly
+  explicit LaneValue(T x) : v(S::splat(x)) {}
+  friend LaneValue operator+(LaneValue a, LaneValue b) { return S::add(a.v, b.v); }
+  friend LaneValue operator-(LaneValue a, LaneValue b) { return S::sub(a.v, b.v); }
+  friend LaneValue operator*(LaneValue a, LaneValue b) { return S::mul(a.v, b.v); }
+  friend LaneValue operator/(LaneValue a, LaneValue b) { return S::div(a.v, b.v); }
+};
+
 // L objects side by side, one per lane: element j of a row of object g becomes
 // lane g of register j. Kernels whose objects run the same steps with no
 // choice between them (solves, products) do L objects for the work of one.

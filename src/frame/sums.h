@@ -103,6 +103,15 @@ inline T splitSum(int K, const Terms& terms) {
   return plainSum(splitBlocks(T(0), 0, k8 / 8, terms), k8, K, terms);
 }
 
+// The split sum of terms 0 .. K - 1 carried on from a running value: `init`
+// starts lane 0 of A (or, below 8 terms, the plain sum).
+template <class T, class Terms>
+inline T splitSumFrom(T init, int K, const Terms& terms) {
+  if (K < 8) return plainSum(init, 0, K, terms);
+  const int k8 = K & ~7;
+  return plainSum(splitBlocks(init, 0, k8 / 8, terms), k8, K, terms);
+}
+
 // The aligned split sum of terms 0 .. K - 1, peeled on `x`, an address of
 // elements of `e` bytes (the term's element, or 8 for a list of pointers).
 // When the address is no multiple of e the sum is plain; otherwise the first P

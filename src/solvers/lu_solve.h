@@ -19,13 +19,11 @@
 #include "../frame/sums.h"
 #include "../frame/views.h"
 #include "qelm/qelmtypes.h"
+#include "solve_shape.h"
 
 #include <type_traits>
 
 namespace qel {
-
-template <class V>
-using ElemOf = std::remove_const_t<std::remove_reference_t<decltype(std::declval<V>().at(0, 0))>>;
 
 // ------------------------------------------------------------- general form
 
@@ -259,20 +257,6 @@ void solveFolded(const FoldedFactors<N>& f, B b, X x) {
 }
 
 // ------------------------------------------------------------- serial kernels
-
-enum class SolveShape { Mv, Mva, Mava };
-
-// Calls body(integral_constant<N>) for orders 3..6, general() for the rest.
-template <class Fixed, class General>
-inline void bySize(int size, Fixed fixed, General general) {
-  switch (size) {
-    case 3: return fixed(std::integral_constant<int, 3>{});
-    case 4: return fixed(std::integral_constant<int, 4>{});
-    case 5: return fixed(std::integral_constant<int, 5>{});
-    case 6: return fixed(std::integral_constant<int, 6>{});
-    default: return general();
-  }
-}
 
 template <class V>
 constexpr bool isContiguousF32 = std::is_same_v<typename V::Object, Mat<float, true>>;
