@@ -138,24 +138,12 @@ void detGeneral(const S& s, void* buffer, T& result, int n) {
   T* w = static_cast<T*>(buffer);
   Qel32s* index = reinterpret_cast<Qel32s*>(w + mul32(n, n));
   auto at = [&](int i, int j) -> T& { return w[mul32(index[i], n) + j]; };
-  for (int i = 0; i < n; ++i) {
-    index[i] = i;
-    for (int j = 0; j < n; ++j) w[mul32(i, n) + j] = s.at(i, j);
-  }
+  loadWork(s, w, index, n);
   result = T(1);
   T sign = T(1);
   const T t = cubeUnits<T>(n) * kMinNormal<T>;
   for (int k = 0; k < n - 1; ++k) {
-    int bestAt = k;
-    T best = std::fabs(at(k, k));
-    for (int i = k + 1; i < n; ++i) {
-      const T v = std::fabs(at(i, k));
-      if (v > best) best = v, bestAt = i;
-    }
-    if (index[bestAt] != index[k]) {
-      std::swap(index[bestAt], index[k]);
-      sign = T(0) - sign;
-    }
+    pivotRow(at, index, k, n, sign);
     const T p = at(k, k);
     if (t > std::fabs(p)) {
       if constexpr (Exact0) {

@@ -389,6 +389,33 @@ QelStatus invBlock(const S& s, const D& d, float tol) {
 
 // ---------------------------------------------------------------- general form
 
+// The work area of the eliminations: the object's rows copied in order, and
+// an index that names the row standing at each place.
+template <class S, class T>
+inline void loadWork(const S& s, T* w, Qel32s* index, int n) {
+  for (int i = 0; i < n; ++i) {
+    index[i] = i;
+    for (int j = 0; j < n; ++j) w[mul32(i, n) + j] = s.at(i, j);
+  }
+}
+
+// Partial pivoting through the index: the row of largest magnitude in column
+// k among places k..m-1 (the first of equal ones) comes to place k; a real
+// exchange flips the sign.
+template <class At, class T>
+inline void pivotRow(const At& at, Qel32s* index, int k, int m, T& sign) {
+  int bestAt = k;
+  T best = std::fabs(at(k, k));
+  for (int i = k + 1; i < m; ++i) {
+    const T v = std::fabs(at(i, k));
+    if (v > best) best = v, bestAt = i;
+  }
+  if (index[bestAt] != index[k]) {
+    std::swap(index[bestAt], index[k]);
+    sign = T(0) - sign;
+  }
+}
+
 // Order 2 and 7 up, in `buffer`: an n x n work area, then n Qel32s row indices.
 // The determinant by elimination with reciprocal multipliers, then every
 // element of the result as the determinant of its minor, eliminated the same
@@ -409,16 +436,7 @@ QelStatus invertGeneral(const S& s, const D& d, void* buffer, int n) {
   // below t, with k the failing step.
   auto eliminate = [&](int m, T& prod, T& sign) {
     for (int k = 0; k < m - 1; ++k) {
-      int bestAt = k;
-      T best = std::fabs(at(k, k));
-      for (int i = k + 1; i < m; ++i) {
-        const T v = std::fabs(at(i, k));
-        if (v > best) best = v, bestAt = i;
-      }
-      if (index[bestAt] != index[k]) {
-        std::swap(index[bestAt], index[k]);
-        sign = T(0) - sign;
-      }
+      pivotRow(at, index, k, m, sign);
       const T p = at(k, k);
       if (t > std::fabs(p)) return false;
       const T r = T(1) / p;
@@ -431,10 +449,7 @@ QelStatus invertGeneral(const S& s, const D& d, void* buffer, int n) {
     return true;
   };
 
-  for (int i = 0; i < n; ++i) {
-    index[i] = i;
-    for (int j = 0; j < n; ++j) w[mul32(i, n) + j] = s.at(i, j);
-  }
+  loadWork(s, w, index, n);
   T prod = T(1), sign = T(1);
   if (!eliminate(n, prod, sign)) {
     if constexpr (!PTest) w[0] = T(0);
