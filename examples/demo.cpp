@@ -14,6 +14,8 @@
 int demoLuRoad(int count, int budget);
 // Points and bodies moved by rotations (demo_transform.cpp).
 int demoTransformRoad(int count, int budget);
+// Stiffness systems by Cholesky and principal axes of bodies (demo_mechanics.cpp).
+int demoMechanicsRoad(int count, int budget);
 
 namespace {
 
@@ -89,6 +91,9 @@ int main(int argc, char** argv) {
   std::printf("\n");
   failures += demoTransformRoad(count, 1);
   if (machine > 1) failures += demoTransformRoad(count, machine);
+  std::printf("\n");
+  failures += demoMechanicsRoad(100000, 1);
+  if (machine > 1) failures += demoMechanicsRoad(100000, machine);
   std::printf("\n");
   failures += demoAddMatrices(count, 1);
   if (machine > 1) failures += demoAddMatrices(count, machine);
