@@ -15,6 +15,7 @@ import warnings
 
 import numpy as np
 
+from . import get_num_threads
 from ._core import NUMPY2, LinAlgError, Result, answer, fix, reachable, real_type, run, take
 
 __all__ = ["inv", "det", "solve", "cholesky", "qr", "lstsq", "eigh", "eigvalsh", "eigvals", "eig",
@@ -108,12 +109,35 @@ def _vector_rhs(a, b):
 
 
 def _lu(src, dt, n, stack):
-    """LU factors of a stack, with numpy's answer for refused objects (None)."""
+    """LU factors and row indices of a stack, and the objects the library refused."""
     count = src.shape[0]
     lu = np.empty((count, n, n), dt)
     idx = np.empty((count, n), np.int32)
     refused = run("LUDecomp", dt, [src, lu, idx], n)
     return lu, idx, refused
+
+
+# Objects per step of a serial solve: the factors of one step stay in cache
+# for their back-substitution, and no stack-sized scratch array is faulted in.
+# With a team the stack goes in one step: every step would wake the team.
+_SOLVE_BYTES = 1 << 20
+
+
+def _lu_solve_steps(src, rhs, x, dt, n):
+    count, k = src.shape[0], rhs.shape[-1]
+    step = max(1, _SOLVE_BYTES // (n * n * np.dtype(dt).itemsize))
+    if get_num_threads() > 1:
+        step = count
+    lu = np.empty((min(step, count), n, n), dt)
+    idx = np.empty((min(step, count), n), np.int32)
+    refused = []
+    for first in range(0, count, step):
+        last = min(first + step, count)
+        f, i = lu[:last - first], idx[:last - first]
+        refused += [first + r for r in run("LUDecomp", dt, [src[first:last], f, i], n)]
+        for j in range(k):
+            run("LUBackSubst", dt, [f, i, rhs[first:last, :, j], x[first:last, :, j]], n)
+    return refused
 
 
 def solve(a, b, out=None):
@@ -139,9 +163,7 @@ def solve(a, b, out=None):
     shape = stack + ((n,) if vec else (n, k))
     res = Result(shape, dt, 1 if vec else 2, out, avoid=(a, b))
     x = res.view if not vec else res.view[..., None]
-    lu, idx, refused = _lu(src, dt, n, stack)
-    for j in range(k):
-        run("LUBackSubst", dt, [lu, idx, rhs[:, :, j], x[:, :, j]], n)
+    refused = _lu_solve_steps(src, rhs, x, dt, n)
     if refused:
         answer(refused, stack, np.linalg.solve, [src, rhs], [x])
     return res.value()

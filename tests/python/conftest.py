@@ -1,5 +1,6 @@
 import numpy as np
 import pytest
+from hypothesis import settings
 
 
 def well_conditioned(rng, shape, dtype, n):
@@ -20,3 +21,8 @@ def tol(dtype):
 @pytest.fixture
 def rng():
     return np.random.default_rng(7)
+
+
+# No example database in the source tree: every run draws afresh.
+settings.register_profile("qelm", database=None)
+settings.load_profile("qelm")
