@@ -91,7 +91,8 @@ def take(a, dtype, core=2):
 
 class Result:
     """A result array: new, or the caller's ``out`` when the library can write it
-    where it lies (else a scratch array copied into ``out`` at the end)."""
+    where it lies (else a scratch array copied into ``out`` at the end).
+    ``packed``: the library writes this result as one contiguous array."""
 
     def __init__(self, shape, dtype, core, out=None, avoid=(), packed=False):
         self.out = out
@@ -104,7 +105,7 @@ class Result:
                 raise TypeError("out has dtype %s, expected %s" % (out.dtype, np.dtype(dtype)))
             if reachable(out, core=core) and not any(np.may_share_memory(out, x) for x in avoid):
                 v = stack_view(out, core)
-                if v is not None and (not packed or v.strides[0] == out.itemsize):
+                if v is not None and (not packed or v.flags.c_contiguous):
                     self.array, self.view = out, v
         if self.array is None:
             self.array = np.empty(shape, dtype)

@@ -315,9 +315,6 @@ def eigvalsh(a, UPLO="L", out=None):
     dt, n = got
     src = take(_symmetric(a, UPLO), dt)
     res = Result(a.shape[:-1], dt, 1, out, packed=True)
-    if res.view.strides[1] != res.view.itemsize:
-        res = Result(a.shape[:-1], dt, 1, None)
-        res.out = out
     refused = _family("eigvalsh", src, dt, n, [res.view])
     refused = sorted(set(refused) | set(fix("trace", dt, [src, res.view], n)))
     fix("sort", dt, [res.view], n)
@@ -521,12 +518,16 @@ def lu_solve(lu_and_piv, b, trans=0, overwrite_b=False, check_finite=True):
         x = np.linalg.solve(np.swapaxes(a, -1, -2), bm.reshape(count, n, -1).astype(dt))
         x = x.reshape(bm.shape)
         return x[..., 0] if vec else x
+    # lu's rows stand in pivot order: the right-hand sides are put in that
+    # order too, and the factors read with the identity for their row index.
     src = take(lu, dt)
-    rhs = take(np.broadcast_to(bm, stack + bm.shape[-2:]), dt)
+    rhs = take(np.broadcast_to(bm, stack + bm.shape[-2:]), dt, 2)
+    rhs = np.take_along_axis(rhs, perm[:, :, None].astype(np.intp), axis=1)
+    rows = np.tile(np.arange(n, dtype=np.int32), (count, 1))
     k = rhs.shape[-1]
     x = np.empty((count, n, k), dt)
     for j in range(k):
-        run("LUBackSubst", dt, [src, perm, rhs[:, :, j], x[:, :, j]], n)
+        run("LUBackSubst", dt, [src, rows, rhs[:, :, j], x[:, :, j]], n)
     x = x.reshape(stack + (n, k))
     return x[..., 0] if vec else x
 
