@@ -79,7 +79,8 @@ def write_table(rows, args):
              "",
              "Stacks of %d matrices, one thread on both sides (OpenBLAS, OpenMP budget 1), median of %d runs, numpy %s."
              % (COUNT, args.repeats, np.__version__),
-             "Ratio = numpy time / qelm time.",
+             "Ratio = numpy time / qelm time. The machine has 2 shared cores with other work running:",
+             "single runs vary by 10-30%; the medians are what to read.",
              "",
              "| function | n | dtype | qelm ms | numpy ms | ratio |",
              "|---|---|---|---|---|---|"]

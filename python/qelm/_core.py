@@ -103,6 +103,8 @@ class Result:
                                  % (getattr(out, "shape", None), tuple(shape)))
             if out.dtype != dtype:
                 raise TypeError("out has dtype %s, expected %s" % (out.dtype, np.dtype(dtype)))
+            if not out.flags.writeable:
+                raise ValueError("output array is read-only")
             if reachable(out, core=core) and not any(np.may_share_memory(out, x) for x in avoid):
                 v = stack_view(out, core)
                 if v is not None and (not packed or v.flags.c_contiguous):

@@ -30,7 +30,7 @@ def _apply(kind, m, v, width, out):
     dst = res.reshape(-1, shape[-1]) if res.flags.c_contiguous else np.empty((src.shape[0], shape[-1]), np.float32)
     if src.shape[0]:
         _qelm.transform(kind, m, src, dst)
-    if dst.base is not res and dst is not res and not np.shares_memory(dst, res):
+    if not np.shares_memory(dst, res):
         res[...] = dst.reshape(shape)
     return res
 

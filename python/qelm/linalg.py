@@ -183,7 +183,7 @@ def cholesky(a, upper=False, out=None):
     else:
         src, dst = take(a, dt), res.view
     refused = _family("cholesky", src, dt, n, [dst])
-    fix("cholesky", dt, [dst], n)
+    refused = sorted(set(refused) | set(fix("cholesky", dt, [dst], n)))
     if refused:
         answer(refused, a.shape[:-2], np.linalg.cholesky, [src], [dst])
     return res.value()
@@ -566,7 +566,7 @@ def cho_factor(a, lower=False, overwrite_a=False, check_finite=True):
     view = take(c, dt)
     f = view if lower else np.swapaxes(view, -1, -2)
     refused = run("CholeskyDecomp", dt, [f, f], n)
-    fix("reciprocal_diagonal", dt, [f], n)
+    refused = sorted(set(refused) | set(fix("reciprocal_diagonal", dt, [f], n)))
     if refused:
         base = take(np.asarray(a, dtype=dt), dt)
         (low,) = answer(refused, a.shape[:-2], np.linalg.cholesky,

@@ -176,28 +176,27 @@ py::tuple run(const std::string& name, bool f64, const std::vector<py::object>& 
   job.fam = it->second;
   job.f64 = f64;
   const long item = f64 ? 8 : 4;
-  std::vector<py::array> keep;
   long count = -1;
   if (int(operands.size()) > kMaxOperands) throw py::value_error("too many operands");
   for (size_t i = 0; i < operands.size(); ++i) {
     if (operands[i].is_none()) continue;
+    if (!py::isinstance<py::array>(operands[i])) throw py::type_error("operands are numpy arrays");
     py::array a = py::reinterpret_borrow<py::array>(operands[i]);
-    const long isz = a.itemsize();
-    job.args.op[i] = describe(a, isz);
+    const char kind = a.dtype().kind();
+    // elements of the family's type, or the 32-bit row indices of LU
+    if (!((kind == 'f' && a.itemsize() == item) || (kind == 'i' && a.itemsize() == 4)))
+      throw py::type_error("operand " + std::to_string(i) + " has the wrong element type");
+    job.args.op[i] = describe(a, a.itemsize());
     if (count < 0) count = a.shape(0);
     else if (a.shape(0) != count) throw py::value_error("operands differ in their number of objects");
-    keep.push_back(a);
   }
   job.count = count;
   job.args.n = n; job.args.w = w; job.args.h = h; job.args.val = val;
   job.scratch.assign(size_t(std::max(1L, bufferElements)) * item, 0);
   job.args.buffer = job.scratch.data();
   if (markOperand >= 0) {
-    const py::array& a = keep[size_t(markOperand)];
-    const Operand& o = job.args.op[markOperand];
     job.markOperand = markOperand;
-    job.markOffset = o.span - item;
-    (void)a;
+    job.markOffset = job.args.op[markOperand].span - item;
   }
   int status = 0;
   std::vector<long> refused;
@@ -229,15 +228,22 @@ template <class T> T& at(const Operand& o, long n, long i, long j) {
 }
 
 // The Cholesky factor keeps 1 / L(i,i) on its diagonal; `zeroUpper` also
-// clears the triangle above it, which the factorisation leaves alone.
-template <class T> void factorDiagonal(const Operand& o, long count, int n, bool zeroUpper) {
-  for (long k = 0; k < count; ++k)
+// clears the triangle above it, which the factorisation leaves alone. Objects
+// whose diagonal came out NaN (the factorisation lets NaN through) are returned.
+template <class T> std::vector<long> factorDiagonal(const Operand& o, long count, int n, bool zeroUpper) {
+  std::vector<long> nan;
+  for (long k = 0; k < count; ++k) {
+    bool bad = false;
     for (int i = 0; i < n; ++i) {
       T& d = at<T>(o, k, i, i);
       d = T(1) / d;
+      bad |= d != d;
       if (zeroUpper)
         for (int j = i + 1; j < n; ++j) at<T>(o, k, i, j) = T(0);
     }
+    if (bad) nan.push_back(k);
+  }
+  return nan;
 }
 
 // Ascending values, the vector columns carried along (values: count x n rows).
@@ -265,7 +271,7 @@ std::vector<long> traceCheck(const Operand& a, const Operand& re, const Operand*
     double sumValues = 0, scale = 0;
     for (int i = 0; i < n; ++i) {
       const double r = at<T>(re, k, 0, i), m = im ? double(at<T>(*im, k, 0, i)) : 0.0;
-      complexValue |= m != 0;
+      complexValue |= m != 0 || r != r;   // NaN: looked at, and refused below
       sumValues += r * r - m * m;
       scale += r * r + m * m;
     }
@@ -295,7 +301,9 @@ py::object fix(const std::string& what, bool f64, const std::vector<py::object>&
   py::gil_scoped_release release;
   if (what == "cholesky" || what == "reciprocal_diagonal") {
     const bool zero = what == "cholesky";
-    f64 ? factorDiagonal<double>(ops[0], count, n, zero) : factorDiagonal<float>(ops[0], count, n, zero);
+    auto nan = f64 ? factorDiagonal<double>(ops[0], count, n, zero) : factorDiagonal<float>(ops[0], count, n, zero);
+    py::gil_scoped_acquire gil;
+    return py::cast(nan);
   } else if (what == "sort") {
     const Operand* v = ops.size() > 1 ? &ops[1] : nullptr;
     f64 ? sortAscending<double>(ops[0], v, count, n) : sortAscending<float>(ops[0], v, count, n);

@@ -159,3 +159,17 @@ def test_vector_and_geometry(rng):
     np.testing.assert_allclose(geometry.transform_points(m, x), h[:, :3] / h[:, 3:], rtol=1e-4, atol=1e-5)
     np.testing.assert_allclose(geometry.transform_normals(m, x), x @ m[:3, :3], rtol=1e-4, atol=1e-5)
     np.testing.assert_allclose(geometry.transform(m, h[::2]), h[::2] @ m, rtol=1e-4, atol=1e-4)
+
+
+@pytest.mark.parametrize("name", ["inv", "det", "cholesky", "eigvalsh", "eigvals", "solve"])
+def test_nan_like_numpy(name):
+    a = np.stack([np.eye(3) * 2] * 3)
+    a[1, 1, 1] = np.nan
+    fn = {"solve": lambda x, m: m.solve(x, x[..., 0])}.get(name, lambda x, m: getattr(m, name)(x))
+    try:
+        want = fn(a, np.linalg)
+    except np.linalg.LinAlgError:
+        with pytest.raises(np.linalg.LinAlgError):
+            fn(a, ql)
+        return
+    np.testing.assert_allclose(fn(a, ql), want, equal_nan=True)
