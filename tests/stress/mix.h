@@ -9,9 +9,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <functional>
-#include <latch>
 #include <memory>
-#include <mutex>
 #include <random>
 #include <string>
 #include <vector>
@@ -250,6 +248,9 @@ inline const std::vector<Row>& mix() {
       auto& a = I.in<Qel64f>(5, 5, n, f); auto& v = I.out<Qel64f>(5, 5, n);
       auto& w = I.out<Qel64f>(1, 5 * std::max(n, 1), 1); Qel64f* buf = I.buffer<Qel64f>(25);
       return [&, n, buf] { return qelmEigenValuesVectorsSym_ma_64f_P(a.elems(), a.elemShift, a.s0, buf, v.elems(), v.elemShift, v.s0, w.ptr(), 5, n); }; }},
+    {"EigenValuesSym_ma_64f_L", kSpd, 3, 60, true, {36 * 8}, [](Instance& I, int n, const Fill& f) {
+      auto& a = I.in<Qel64f>(6, 6, n, f); auto& w = I.out<Qel64f>(1, 6 * std::max(n, 1), 1); Qel64f* buf = I.buffer<Qel64f>(36);
+      return [&, n, buf] { return qelmEigenValuesSym_ma_64f_L(a.list(), a.listShift, a.s1, a.s2, buf, w.ptr(), 6, n); }; }},
     {"EigenValues_ma_64f", kNaN, 3, 40, true, {5 * (3 * 5 + 5) * 8}, [](Instance& I, int n, const Fill& f) {
       auto& a = I.in<Qel64f>(5, 5, n, f); auto& re = I.out<Qel64f>(1, 5 * std::max(n, 1), 1); auto& im = I.out<Qel64f>(1, 5 * std::max(n, 1), 1);
       Qel64f* buf = I.buffer<Qel64f>(eigenBytes<Qel64f>(5, qelmEigenValuesGetBufSize_64f));
@@ -265,6 +266,12 @@ inline const std::vector<Row>& mix() {
       auto& re = I.out<Qel64f>(1, 3 * std::max(n, 1), 1); auto& im = I.out<Qel64f>(1, 3 * std::max(n, 1), 1);
       Qel64f* buf = I.buffer<Qel64f>(eigenBytes<Qel64f>(3, qelmEigenValuesVectorsGetBufSize_64f));
       return [&, n, buf] { return qelmEigenValuesVectorsLeft_ma_64f_P(a.elems(), a.elemShift, a.s0, l.elems(), l.elemShift, l.s0, re.ptr(), im.ptr(), 3, n, buf); }; }},
+    {"EigenValuesVectorsRight_ma_32f_L", kNaN, 3, 40, true, {4 * (3 * 4 + 5) * 4}, [](Instance& I, int n, const Fill& f) {
+      auto& a = I.in<Qel32f>(4, 4, n, f); auto& r = I.out<Qel32f>(4, 4, n);
+      auto& re = I.out<Qel32f>(1, 4 * std::max(n, 1), 1); auto& im = I.out<Qel32f>(1, 4 * std::max(n, 1), 1);
+      Qel32f* buf = I.buffer<Qel32f>(eigenBytes<Qel32f>(4, qelmEigenValuesVectorsGetBufSize_32f));
+      return [&, n, buf] { return qelmEigenValuesVectorsRight_ma_32f_L(a.list(), a.listShift, a.s1, a.s2, r.list(), r.listShift, r.s1, r.s2,
+                                                                       re.ptr(), im.ptr(), 4, n, buf); }; }},
     // Geometry: the one array transform with a team, an array one without, single objects.
     {"AffineTransform3DH_mva_32f", kRandom, 3, 400, true, {}, [](Instance& I, int n, const Fill& f) {
       auto& m = I.in<Qel32f>(4, 4, 1); auto& v = I.in<Qel32f>(1, 3, n, f); auto& d = I.out<Qel32f>(1, 3, n);
