@@ -46,11 +46,22 @@ struct Result {
 // (and caller buffers) back to the canary before every call.
 class Instance {
  public:
-  explicit Instance(uint32_t seed) : seed_(seed) {}
+  // Inputs lie in `form` (row and element gaps, column order, misalignment:
+  // the general kernels and their bodies), outputs packed.
+  explicit Instance(uint32_t seed, qt::Form form = qt::Form::Packed) : seed_(seed), form_(form) {}
 
   template <class T>
   Batch<T>& in(int rows, int cols, int count, const Fill& f = kRandom) {
-    Batch<T>& b = make<T>(rows, cols, count);
+    return fillIn(make<T>(rows, cols, count, form_), f);
+  }
+  // An input that must be packed whatever the form (geometry operands).
+  template <class T>
+  Batch<T>& packed(int rows, int cols, int count, const Fill& f = kRandom) {
+    return fillIn(make<T>(rows, cols, count), f);
+  }
+  template <class T>
+  Batch<T>& fillIn(Batch<T>& b, const Fill& f) {
+    const int rows = b.rows(), cols = b.cols();
     b.fillRandom(seed_++);
     for (int n = 0; n < b.count(); ++n) {
       if (f.kind != Kind::Random)
@@ -93,12 +104,13 @@ class Instance {
 
  private:
   template <class T>
-  Batch<T>& make(int rows, int cols, int count) {
-    auto b = std::make_shared<Batch<T>>(rows, cols, std::max(count, 1));
+  Batch<T>& make(int rows, int cols, int count, qt::Form form = qt::Form::Packed) {
+    auto b = std::make_shared<Batch<T>>(rows, cols, std::max(count, 1), form);
     keep_.push_back(b);
     return *b;
   }
   uint32_t seed_;
+  qt::Form form_;
   std::vector<std::shared_ptr<void>> keep_;
   std::vector<std::function<void()>> resets_;
   std::vector<std::function<void(std::vector<unsigned char>&)>> reads_;
@@ -277,14 +289,14 @@ inline const std::vector<Row>& mix() {
       auto& m = I.in<Qel32f>(4, 4, 1); auto& v = I.in<Qel32f>(1, 3, n, f); auto& d = I.out<Qel32f>(1, 3, n);
       return [&, n] { return qelmAffineTransform3DH_mva_32f(m.ptr(), m.s1, m.s2, v.ptr(), v.s0, v.s2, d.ptr(), d.s0, d.s2, n); }; }},
     {"AffineTransform_m4v3a_32f", kRandom, 3, 400, false, {}, [](Instance& I, int n, const Fill& f) {
-      auto& m = I.in<Qel32f>(4, 4, 1); auto& v = I.in<Qel32f>(1, 3, n, f); auto& d = I.out<Qel32f>(1, 3, n);
+      auto& m = I.packed<Qel32f>(4, 4, 1); auto& v = I.packed<Qel32f>(1, 3, n, f); auto& d = I.out<Qel32f>(1, 3, n);
       return [&, n] { return qelmAffineTransform_m4v3a_32f(m.ptr(), v.ptr(), v.s0, d.ptr(), d.s0, n); }; }},
     {"Invert_m4_32f", kSingular, 1, 0, false, {}, [](Instance& I, int n, const Fill& f) {
-      auto& a = I.in<Qel32f>(4, 4, 7, f); auto& det = I.out<Qel32f>(1, 1, 1); auto& d = I.out<Qel32f>(4, 4, 1);
+      auto& a = I.packed<Qel32f>(4, 4, 7, f); auto& det = I.out<Qel32f>(1, 1, 1); auto& d = I.out<Qel32f>(4, 4, 1);
       const Qel32f* src = &a.at(n ? 1 : 0, 0, 0);  // object 1 is the spoiled one
       return [&, src] { return qelmInvert_m4_32f(src, det.ptr(), d.ptr()); }; }},
     {"Normalize_v3_32f", kRandom, 1, 0, false, {}, [](Instance& I, int, const Fill& f) {
-      auto& a = I.in<Qel32f>(1, 3, 1, f); auto& d = I.out<Qel32f>(1, 3, 1);
+      auto& a = I.packed<Qel32f>(1, 3, 1, f); auto& d = I.out<Qel32f>(1, 3, 1);
       return [&] { return qelmNormalize_v3_32f(a.ptr(), d.ptr()); }; }},
   };
   return rows;

@@ -1,7 +1,7 @@
 // Many callers at once: eight threads call a mix of exports from every family,
-// each on its own data, small calls that stay serial and large ones that fork
-// a team inside the calling thread, calls that succeed, calls whose objects
-// fail and calls refused by their argument checks. Every result (status, the
+// each on its own data (in a layout of its own), small calls that stay serial
+// and large ones that fork a team inside the calling thread, calls that
+// succeed, calls whose objects fail and calls refused by their argument checks. Every result (status, the
 // bits of every output, and that nothing outside the outputs was written) must
 // equal that of the same call made alone beforehand, on one thread.
 //
@@ -49,12 +49,13 @@ TEST(StressCallers, ManyCallersGetWhatEachCallGetsAlone) {
   pinnedSetBudget(kBudget);
   const std::vector<Variant> vs = variants();
   // Every thread's own calls, and their results made alone on this thread.
+  // Thread t keeps its inputs in form t mod 6 (thread 0 packed).
   std::vector<std::vector<Instance>> mine(kThreads);
   std::vector<std::vector<Result>> alone(kThreads);
   int forked = 0, failed = 0, refused = 0;
   for (int t = 0; t < kThreads; ++t)
     for (size_t i = 0; i < vs.size(); ++i) {
-      Instance& c = mine[t].emplace_back(uint32_t(1000 * t + 10 * i + 1));
+      Instance& c = mine[t].emplace_back(uint32_t(1000 * t + 10 * i + 1), qt::allForms()[t % qt::allForms().size()]);
       c.call = vs[i].row->make(c, vs[i].n, vs[i].row->fill);
       pinnedResetCalls();
       alone[t].push_back(c.run());
