@@ -322,13 +322,26 @@ template <int N, class A, class B, class D>
     if constexpr (N >= 5 && rowsContiguous<typename A::Object> && rowsContiguous<typename B::Object> &&
                   rowsContiguous<typename D::Object>) {
       if (disjointObjects(a, {N, N}, d, {N, N}, count) && disjointObjects(b, {N, N}, d, {N, N}, count)) {
-        for (int n = 0; n < count; ++n) {
-          const RowPointers<T, N> bn{b.object(n)};
-          if constexpr (std::is_same_v<T, double> && N % 2 == 0)
-            productColumnPairs<N>(a.object(n), bn, d.object(n));
-          else
-            productRowGroups<T, N>(a.object(n), bn, d.object(n));
+        auto each = [&](auto rows) {
+          for (int n = 0; n < count; ++n) {
+            const auto an = rows(a.object(n)), bo = rows(b.object(n)), dn = rows(d.object(n));
+            const RowPointers<T, N> bn{bo};
+            if constexpr (std::is_same_v<T, double> && N % 2 == 0)
+              productColumnPairs<N>(an, bn, dn);
+            else
+              productRowGroups<T, N>(an, bn, dn);
+          }
+        };
+        // Packed rows: the row distance becomes a constant of the code, so the
+        // rows of an object are fixed offsets from its base.
+        constexpr int32_t packed = N * int32_t(sizeof(T));
+        if constexpr (requires { a.s1, b.s1, d.s1; }) {
+          if (a.s1 == packed && b.s1 == packed && d.s1 == packed) {
+            each([](auto o) { o.s1 = packed; return o; });
+            return;
+          }
         }
+        each([](auto o) { return o; });
         return;
       }
     }
