@@ -324,7 +324,9 @@ template <int N, class A, class B, class D>
       if (disjointObjects(a, {N, N}, d, {N, N}, count) && disjointObjects(b, {N, N}, d, {N, N}, count)) {
         auto each = [&](auto rows) {
           for (int n = 0; n < count; ++n) {
-            const auto an = rows(a.object(n)), bo = rows(b.object(n)), dn = rows(d.object(n));
+            const auto an = rows(a.object(n));
+            const auto bo = rows(b.object(n));
+            const auto dn = rows(d.object(n));
             const RowPointers<T, N> bn{bo};
             if constexpr (std::is_same_v<T, double> && N % 2 == 0)
               productColumnPairs<N>(an, bn, dn);
