@@ -121,7 +121,8 @@ def emit(funcs, out):
             body = f"return {call};"
         else:  # the version query: a record, never null
             body = f"return {call} ? 0 : 1;"
-        lines.append(f"static QelStatus call{i}(const Arg* a) {{ {body} }}")
+        arg = "const Arg* a" if f["params"] else "const Arg*"
+        lines.append(f"static QelStatus call{i}({arg}) {{ {body} }}")
     lines.append("")
     lines.append("static const Export kExports[] = {")
     for i, f in enumerate(funcs):
