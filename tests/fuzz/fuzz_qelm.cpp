@@ -151,7 +151,8 @@ enum Kind : uint8_t {
   kRefusedSure,  // null pointer, count or size below 1: every checked export refuses it
   kRefusedSmall, // a bad stride or shift of small magnitude: refused but by the few
                  // documented gaps, and harmless if accepted
-  kWild          // anything reaching beyond the arena: only beside a sure refusal
+  kWild,         // anything reaching beyond the arena: only beside a sure refusal
+  kIdle          // a wild stride between objects of a single object: never used
 };
 
 struct Param {
@@ -264,7 +265,7 @@ void decode(Reader& in, Call& c) {
     switch (p.role) {
       case 'S': case 'D': case 'X': case 'B': case 'l': case 'L':
         p.slot = c.slotsUsed++;
-        if (s == 0 && ex.checked) p.kind = kRefusedSure;
+        if (p.sel % 32 == 0 && ex.checked) p.kind = kRefusedSure;
         if (p.role == 'D' || p.role == 'L' || p.role == 'B') c.outputSlot[p.slot] = true;
         if (p.role == 'X') c.indexSlot = p.slot;
         break;
@@ -285,7 +286,10 @@ void decode(Reader& in, Call& c) {
         // s 0..3 natural strides, set after the sizes are known
         if (s == 4) p.value = e * (1 + p.v);
         else if (s == 5) p.value = refusedSmallStride(e, p.v), p.kind = kRefusedSmall;
-        else if (s == 6) p.value = refusedWildStride(e, p.v), p.kind = kWild;
+        // A negative or misaligned stride within an object is refused by
+        // every checked export; one between objects only matters for more
+        // than one object (Copy and LoadIdentity don't test it for one).
+        else if (s == 6) p.value = refusedWildStride(e, p.v), p.kind = p.role == '0' ? kWild : kRefusedSure;
         else if (s == 7) p.value = validWildStride(e, p.v), p.kind = kWild;
         break;
       case 'r':
@@ -358,18 +362,24 @@ void decode(Reader& in, Call& c) {
     widest->value = std::max(widest->elem, widest->value / 2 / widest->elem * widest->elem);
   }
 
+  const bool single = countParam == c.params.end() || (countParam->kind == kValid && countParam->value == 1);
   for (auto& p : c.params) {
+    if (p.role == '0' && p.kind == kWild && single) p.kind = kIdle;
     if (p.kind == kRefusedSure) c.refusedSure = true;
-    if (p.kind == kRefusedSmall) c.refusedSmall = true;
+    if (p.kind == kRefusedSmall || p.kind == kIdle) c.refusedSmall = true;  // refused or not
     if (p.kind == kWild) c.wild = true;
   }
-  // A value reaching beyond the arena only beside a null pointer.
+  // A value reaching beyond the arena only beside a sure refusal: a null
+  // pointer, a count or a size below 1, whichever the input picks.
   if (c.wild && !c.refusedSure) {
-    std::vector<Param*> ptrs;
+    std::vector<Param*> can;
     for (auto& p : c.params)
-      if (isPointer(p.role) || isList(p.role)) ptrs.push_back(&p);
-    if (ptrs.empty() || !ex.checked) std::abort();  // unchecked exports never get wild values
-    ptrs[nullPick % ptrs.size()]->kind = kRefusedSure;
+      if (isPointer(p.role) || isList(p.role) || ((p.role == 'c' || p.role == 'z') && p.kind == kValid))
+        can.push_back(&p);
+    if (can.empty() || !ex.checked) std::abort();  // unchecked exports never get wild values
+    Param& p = *can[nullPick % can.size()];
+    p.kind = kRefusedSure;
+    if (!isPointer(p.role) && !isList(p.role)) p.value = refusedBelowOne(nullPick / 8);
     c.refusedSure = true;
   }
 
@@ -418,7 +428,9 @@ void decode(Reader& in, Call& c) {
 }
 
 void describe(const Call& c, QelStatus status, const char* what) {
-  std::fprintf(stderr, "\n*** %s: %s returned %d\n", what, c.ex->name, status);
+  std::fprintf(stderr, "\n*** %s: %s", what, c.ex->name);
+  if (std::strcmp(what, "call") != 0) std::fprintf(stderr, " returned %d", status);
+  std::fprintf(stderr, "\n");
   for (size_t k = 0; k < c.params.size(); ++k) {
     const Param& p = c.params[k];
     const Arg& a = c.args[k];
@@ -460,8 +472,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   }
 
   static const bool trace = std::getenv("QELM_FUZZ_TRACE") != nullptr;
-  if (trace) describe(c, 0, "call");
+  if (trace) describe(c, 0, "call");  // before the call: a crash leaves it printed
   const QelStatus status = c.ex->call(c.args.data());
+  if (trace)
+    std::fprintf(stderr, "  -> %d (refused for sure %d, small %d, wild %d)\n", status, c.refusedSure, c.refusedSmall,
+                 c.wild);
 
   auto fail = [&](const char* what) {
     describe(c, status, what);
