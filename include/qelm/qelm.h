@@ -2186,6 +2186,10 @@ QelStatus qelmProject_m4v3_32f(const Qel32f* projection, const Qel32f* view, con
 QelStatus qelmProject_m4v3a_32f(const Qel32f* projection, const Qel32f* view, const Qel32f* world, const Qel32f* src,
                                 int srcStride, Qel32f viewWidth, Qel32f viewHeight, Qel32f minZ, Qel32f maxZ,
                                 Qel32f* dst, int dstStride, int count);
+/* Unproject answers qelStatusSingular for a singular world-view-projection
+ * chain; qelmAffineTransform3DH_mva_32f, besides its checks, answers
+ * qelStatusDivideByZero where a vector's w vanishes (that vector then holds the
+ * largest float). The other transforms always answer qelStatusOk. */
 QelStatus qelmUnproject_m4v3_32f(const Qel32f* projection, const Qel32f* view, const Qel32f* world, const Qel32f* src,
                                  Qel32f viewWidth, Qel32f viewHeight, Qel32f minZ, Qel32f maxZ, Qel32f* dst);
 QelStatus qelmUnproject_m4v3a_32f(const Qel32f* projection, const Qel32f* view, const Qel32f* world, const Qel32f* src,
@@ -2198,7 +2202,10 @@ QelStatus qelmAffineTransform3DH_mva_32f(const Qel32f* src1, int src1Stride1, in
 QelStatus qelmMul_mm4x4_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
 QelStatus qelmMulTranspose_m4_32f(const Qel32f* src1, const Qel32f* src2, Qel32f* dst);
 QelStatus qelmDet_m4_32f(const Qel32f* src, Qel32f* dst);
+/* Invert_m4 answers qelStatusSingular for a singular matrix, with 0 in dstDet
+ * (which may be null). */
 QelStatus qelmInvert_m4_32f(const Qel32f* src, Qel32f* dstDet, Qel32f* dst);
+/* The rest always answer qelStatusOk. */
 QelStatus qelmTranspose_m4_32f(const Qel32f* src, Qel32f* dst);
 QelStatus qelmIsIdentity_m4_32f(const Qel32f* src, Qel32s* dst);
 
