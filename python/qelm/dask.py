@@ -94,12 +94,18 @@ def matmul(a, b):
     return _block(_la.matmul, "ik", (a, "ij"), (b, "jk"), dtype=_dtype(a, b), stack=_letters(a))
 
 
+def _rhs(b, like):
+    """Right-hand sides stacked as `like`: a stack of vectors (..., n) or of
+    matrices (..., n, k); answers them and whether they are vectors."""
+    b = da.asarray(b)
+    vec = b.ndim == like.ndim - 1
+    return _like(_stack(b, 1 if vec else 2), like, 1 if vec else 2), vec
+
+
 def solve(a, b):
     """b a stack of vectors (..., n) or of matrices (..., n, k), stacked as a."""
     a = _stack(a)
-    b = da.asarray(b)
-    vec = b.ndim == a.ndim - 1
-    b = _like(_stack(b, 1 if vec else 2), a, 1 if vec else 2)
+    b, vec = _rhs(b, a)
     return _block(_solve_block, "i" if vec else "ik", (a, "ij"), (b, "i" if vec else "ik"),
                   dtype=_dtype(a, b), stack=_letters(a), vec=vec)
 
@@ -178,9 +184,7 @@ def _lstsq_block(a, b, vec, rcond):
 def lstsq(a, b, rcond=None):
     """(x, residuals, rank, s) per object; residuals are NaN where numpy gives none."""
     a = _stack(a)
-    b = da.asarray(b)
-    vec = b.ndim == a.ndim - 1
-    b = _like(_stack(b, 1 if vec else 2), a, 1 if vec else 2)
+    b, vec = _rhs(b, a)
     m, n = a.shape[-2:]
     k = 1 if vec else b.shape[-1]
     width = n * k + k + 1 + n
@@ -210,9 +214,7 @@ def lu_solve(lu_and_piv, b):
     lu, piv = lu_and_piv
     lu = _stack(lu)
     piv = _like(_stack(piv, 1), lu, 1)
-    b = da.asarray(b)
-    vec = b.ndim == lu.ndim - 1
-    b = _like(_stack(b, 1 if vec else 2), lu, 1 if vec else 2)
+    b, vec = _rhs(b, lu)
     return _block(_lu_solve_block, "i" if vec else "ik", (lu, "ij"), (piv, "i"), (b, "i" if vec else "ik"),
                   dtype=_dtype(lu, b), stack=_letters(lu))
 
@@ -233,8 +235,6 @@ def _cho_solve_block(c, b, lower):
 def cho_solve(c_and_lower, b):
     c, lower = c_and_lower
     c = _stack(c)
-    b = da.asarray(b)
-    vec = b.ndim == c.ndim - 1
-    b = _like(_stack(b, 1 if vec else 2), c, 1 if vec else 2)
+    b, vec = _rhs(b, c)
     return _block(_cho_solve_block, "i" if vec else "ik", (c, "ij"), (b, "i" if vec else "ik"),
                   dtype=_dtype(c, b), stack=_letters(c), lower=lower)

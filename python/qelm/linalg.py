@@ -362,6 +362,12 @@ def _complex_type(dt):
     return np.complex64 if dt == np.float32 else np.complex128
 
 
+def _complex(re, im, dt):
+    w = np.empty(re.shape, _complex_type(dt))
+    w.real, w.imag = re, im
+    return w
+
+
 def eigvals(a):
     """numpy.linalg.eigvals: real when every value is real, complex otherwise."""
     a = np.asarray(a)
@@ -370,18 +376,15 @@ def eigvals(a):
         return np.linalg.eigvals(a)
     dt, n = got
     src, (re, im), refused = _general_values(a, dt, n, False)
-    w = None
     if refused:
-        w = np.empty(re.shape, _complex_type(dt))
-        w.real, w.imag = re, im
+        w = _complex(re, im, dt)
         answer(refused, a.shape[:-2], np.linalg.eigvals, [src], [w])
         if not w.imag.any():
             w = np.ascontiguousarray(w.real)
     elif not im.any():
         w = re
     else:
-        w = np.empty(re.shape, _complex_type(dt))
-        w.real, w.imag = re, im
+        w = _complex(re, im, dt)
     return w.reshape(a.shape[:-1])
 
 
@@ -394,8 +397,7 @@ def eig(a):
     dt, n = got
     src, (re, im, vec), refused = _general_values(a, dt, n, True)
     ct = _complex_type(dt)
-    w = np.empty(re.shape, ct)
-    w.real, w.imag = re, im
+    w = _complex(re, im, dt)
     v = vec.astype(ct)
     # A pair (j, j+1) keeps the vector of re + i im as real and imaginary columns;
     # those are the left eigenvectors of the transposed matrix, so the right
