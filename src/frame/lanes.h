@@ -264,4 +264,50 @@ inline void pack3(float* p, const __m128 (&o)[3]) {
                             _mm_shuffle_ps(o[1], o[2], _MM_SHUFFLE(3, 3, 3, 3))));
 }
 
+
+// Four packed 3-element Qel32f vectors times one 3 by 3 matrix, the vectors
+// left as they lie: register r of the run holds elements 4r .. 4r + 3, so lane
+// l carries element (4r + l) mod 3 of its own vector. Each lane's three terms
+// are spread to it from the registers that hold its vector (thirteen shuffles
+// for the four vectors, against twenty-odd for a transpose there and back),
+// and the results land in the order they are stored in.
+struct Quad3Matrix {
+  __m128 c[3][3];  // c[r][k]: the coefficient of term k in each lane of register r
+  // coef(i, k): the coefficient of x(k) in result element i.
+  template <class Coef>
+  explicit Quad3Matrix(Coef coef) {
+    for (int r = 0; r < 3; ++r)
+      for (int k = 0; k < 3; ++k)
+        c[r][k] = _mm_setr_ps(coef((4 * r) % 3, k), coef((4 * r + 1) % 3, k), coef((4 * r + 2) % 3, k),
+                              coef((4 * r + 3) % 3, k));
+  }
+  // One vector z spread the way the run lies, to be added lane by lane.
+  template <class Elem>
+  static void spread(Elem z, __m128 (&out)[3]) {
+    for (int r = 0; r < 3; ++r)
+      out[r] = _mm_setr_ps(z((4 * r) % 3), z((4 * r + 1) % 3), z((4 * r + 2) % 3), z((4 * r + 3) % 3));
+  }
+  // y[r] = ((c0 x0 + c1 x1) + c2 x2) lane by lane, x(k) of the lane's own vector.
+  void apply(const __m128 (&x)[3], __m128 (&y)[3]) const {
+    auto pick = [](__m128 a, __m128 b, auto imm) { return _mm_shuffle_ps(a, b, decltype(imm)::value); };
+    using std::integral_constant;
+    auto lanes0222 = [&](__m128 t) { return pick(t, t, integral_constant<int, _MM_SHUFFLE(2, 2, 2, 0)>{}); };
+    auto lanes0002 = [&](__m128 t) { return pick(t, t, integral_constant<int, _MM_SHUFFLE(2, 0, 0, 0)>{}); };
+    // x[0] = a0 a1 a2 b0, x[1] = b1 b2 c0 c1, x[2] = c2 d0 d1 d2.
+    const __m128 s[3][3] = {
+        {pick(x[0], x[0], integral_constant<int, _MM_SHUFFLE(3, 0, 0, 0)>{}),
+         lanes0002(pick(x[0], x[1], integral_constant<int, _MM_SHUFFLE(0, 0, 1, 1)>{})),
+         lanes0002(pick(x[0], x[1], integral_constant<int, _MM_SHUFFLE(1, 1, 2, 2)>{}))},
+        {pick(x[0], x[1], integral_constant<int, _MM_SHUFFLE(2, 2, 3, 3)>{}),
+         pick(x[1], x[1], integral_constant<int, _MM_SHUFFLE(3, 3, 0, 0)>{}),
+         pick(x[1], x[2], integral_constant<int, _MM_SHUFFLE(0, 0, 1, 1)>{})},
+        {lanes0222(pick(x[1], x[2], integral_constant<int, _MM_SHUFFLE(1, 1, 2, 2)>{})),
+         lanes0222(pick(x[1], x[2], integral_constant<int, _MM_SHUFFLE(2, 2, 3, 3)>{})),
+         pick(x[2], x[2], integral_constant<int, _MM_SHUFFLE(3, 3, 3, 0)>{})}};
+    for (int r = 0; r < 3; ++r)
+      y[r] = _mm_add_ps(_mm_add_ps(_mm_mul_ps(s[r][0], c[r][0]), _mm_mul_ps(s[r][1], c[r][1])),
+                        _mm_mul_ps(s[r][2], c[r][2]));
+  }
+};
+
 }  // namespace qel

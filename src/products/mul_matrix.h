@@ -274,27 +274,23 @@ inline void productObject(const O1& a, const O2& b, const OD& d) {
 }
 
 // Packed 3x3 Qel32f objects times one matrix: the array is one run of 3-element
-// rows, each times op2, and four rows go at once, row r in lane r, with the
-// same ((a0 b0j + a1 b1j) + a2 b2j) as one row alone. Runs while whole groups of
-// four objects remain; returns the number of objects done.
+// rows, each times op2, and four rows go at once as they lie (Quad3Matrix),
+// with the same ((a0 b0j + a1 b1j) + a2 b2j) as one row alone. Runs while whole
+// groups of four objects remain; returns the number of objects done.
 template <class A, class B, class D>
 inline int packedRowQuads(const A& a, const B& b, const D& d, int count) {
   if (a.s1 != 12 || a.s0 != 36 || d.s1 != 12 || d.s0 != 36 || !independentObjects(a, {3, 3}, d, {3, 3}, count))
     return 0;
-  __m128 bs[3][3];
-  unroll<3>([&](auto k) { unroll<3>([&](auto j) { bs[k][j] = _mm_set1_ps(b.at(k, j)); }); });
+  const Quad3Matrix c([&](int j, int k) { return b.at(k, j); });
   const float* p = a.base;
   float* q = d.base;
   const int groups = count / 4;
   // Four objects are twelve rows: three steps of four rows.
   for (int g = 0; g < groups * 3; ++g, p += 12, q += 12) {
-    __m128 x[3], y[3];
-    unpack3(p, x);
-    unroll<3>([&](auto j) {
-      y[j] = _mm_add_ps(_mm_add_ps(_mm_mul_ps(x[0], bs[0][j]), _mm_mul_ps(x[1], bs[1][j])),
-                        _mm_mul_ps(x[2], bs[2][j]));
-    });
-    pack3(q, y);
+    const __m128 x[3] = {_mm_loadu_ps(p), _mm_loadu_ps(p + 4), _mm_loadu_ps(p + 8)};
+    __m128 y[3];
+    c.apply(x, y);
+    unroll<3>([&](auto r) { _mm_storeu_ps(q + 4 * r, y[r]); });
   }
   return groups * 4;
 }

@@ -194,8 +194,9 @@ constexpr bool isPackedFloatArray = std::is_same_v<V, StridedArray<const float, 
                                     std::is_same_v<V, StridedArray<float, true>>;
 
 // One Qel32f 3 by 3 matrix against packed 3-element vectors (12 bytes apart):
-// four objects a step, object k of the step in lane k, each result the same
-// ((t0 + t1) + t2) (+ z) as one object alone. Answers how many objects it did.
+// four objects a step, as they lie in memory (Quad3Matrix), each result the
+// same ((t0 + t1) + t2) (+ z) as one object alone. Answers how many objects it
+// did.
 template <class A, class X, class Z, class D>
 int packedQuads3(const A& a, const X& x, const Z& z, const D& d, int count) {
   if constexpr (std::is_same_v<ElemOf<D>, float> && !A::isArray && isPackedFloatArray<X> &&
@@ -206,23 +207,23 @@ int packedQuads3(const A& a, const X& x, const Z& z, const D& d, int count) {
       if (z.s0 != 12) return 0;
     }
     const auto m = a.object(0);
-    __m128 c[3][3], zs[3] = {};
-    unroll<3>([&](auto i) { unroll<3>([&](auto k) { c[i][k] = _mm_set1_ps(m.at(i, k)); }); });
-    if constexpr (addZ && !Z::isArray) unroll<3>([&](auto i) { zs[i] = _mm_set1_ps(z.object(0).at(0, i)); });
+    const Quad3Matrix c([&](int i, int k) { return m.at(i, k); });
+    __m128 zs[3] = {};
+    if constexpr (addZ && !Z::isArray) Quad3Matrix::spread([&](int i) { return z.object(0).at(0, i); }, zs);
     const int quads = count & ~3;
     for (int n = 0; n < quads; n += 4) {
-      // An array z is read into the registers that then take the results.
-      __m128 v[3], y[3];
-      unpack3(x.object(n).row(0), v);
-      if constexpr (Z::isArray) unpack3(z.object(n).row(0), y);
-      unroll<3>([&](auto i) {
-        const __m128 s = _mm_add_ps(_mm_add_ps(_mm_mul_ps(v[0], c[i][0]), _mm_mul_ps(v[1], c[i][1])),
-                                    _mm_mul_ps(v[2], c[i][2]));
-        if constexpr (Z::isArray) y[i] = _mm_add_ps(s, y[i]);
-        else if constexpr (addZ) y[i] = _mm_add_ps(s, zs[i]);
-        else y[i] = s;
-      });
-      pack3(d.object(n).row(0), y);
+      const float* p = x.object(n).row(0);
+      const __m128 v[3] = {_mm_loadu_ps(p), _mm_loadu_ps(p + 4), _mm_loadu_ps(p + 8)};
+      __m128 y[3];
+      c.apply(v, y);
+      if constexpr (Z::isArray) {
+        const float* q = z.object(n).row(0);
+        unroll<3>([&](auto r) { y[r] = _mm_add_ps(y[r], _mm_loadu_ps(q + 4 * r)); });
+      } else if constexpr (addZ) {
+        unroll<3>([&](auto r) { y[r] = _mm_add_ps(y[r], zs[r]); });
+      }
+      float* o = d.object(n).row(0);
+      unroll<3>([&](auto r) { _mm_storeu_ps(o + 4 * r, y[r]); });
     }
     return quads;
   } else {
