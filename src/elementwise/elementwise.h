@@ -244,7 +244,7 @@ void listedObjectsSse(A a, B b, D d, int count) {
 // elements takes aligned units when every base and object distance is a
 // multiple of 16. A square matrix:
 //   3 by 3  packed rows at a pitch of 16, or the same sums at the real pitch;
-//   4 by 4  packed and aligned, aligned at the real pitch, or unaligned;
+//   4 by 4  packed rows and aligned, aligned at the real pitch, or unaligned;
 //   5 by 5  unaligned, four elements and one per row;
 //   6 by 6  aligned loads of the first operand, or unaligned. The destination's
 //           object distance is not tested, so its later objects may be unaligned.
@@ -256,6 +256,7 @@ void unrolledSse(A a, B b, D d, int count) {
   if constexpr (isObjectList<A> || isObjectList<B> || isObjectList<D>) {
     if (count > 1) return listedObjectsSse<Op, R, N>(a, b, d, count);
   }
+  using T = typename D::Object::Elem;
   Alignment al;
   noteAlignment(al, a, true);
   noteAlignment(al, b, false);
@@ -269,7 +270,9 @@ void unrolledSse(A a, B b, D d, int count) {
     if (allAligned && al.rowOr == 16) return objectsSse<Op, 3, 3, 16, false, false>(a, b, d, count);
     return objectsSse<Op, 3, 3, 0, false, false>(a, b, d, count);
   } else if constexpr (N == 4) {
-    if (allAligned && al.rowOr == 16) return objectsSse<Op, 4, 4, 16, true, true>(a, b, d, count);
+    // Packed rows (16 bytes of Qel32f, 32 of Qel64f) are fixed offsets from the object.
+    constexpr int packed = 4 * int(sizeof(T));
+    if (allAligned && al.rowOr == packed) return objectsSse<Op, 4, 4, packed, true, true>(a, b, d, count);
     if (allAligned) return objectsSse<Op, 4, 4, 0, true, true>(a, b, d, count);
     return objectsSse<Op, 4, 4, 0, false, false>(a, b, d, count);
   } else if constexpr (N == 6) {
