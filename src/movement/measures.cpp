@@ -146,34 +146,48 @@ auto sumOfSquares(const O& o, Width width, Height height) {
 // Contiguous square objects of 3 to 5 a register at a time, object k in lane
 // k: each lane adds the same squares in the same row order from zero as one
 // object alone, and the root in lanes is the exact one, so the bits are the
-// same; the chains of four objects overlap. Answers the objects done.
-template <int N, class A, class D>
-int frobGroups(A a, D d, int count) {
+// same. G registers of objects go side by side: each lane's sum is one chain of
+// N * N dependent additions, and G chains overlap. Starts at object n and
+// answers where it stopped.
+template <int N, int G, class A, class D>
+int frobGroups(A a, D d, int n, int count) {
   using T = ElemOf<D>;
   using S = Lanes<T>;
-  int n = 0;
-  for (; n + S::L <= count; n += S::L) {
-    typename A::Object o[S::L];
-    for (int k = 0; k < S::L; ++k) o[k] = a.object(n + k);
-    typename S::V sum = S::zero();
+  constexpr int K = G * S::L;
+  for (; n + K <= count; n += K) {
+    typename A::Object o[K];
+    for (int k = 0; k < K; ++k) o[k] = a.object(n + k);
+    typename S::V sum[G];
+    for (int g = 0; g < G; ++g) sum[g] = S::zero();
     if constexpr (S::L == 4 && N == 4) {  // rows of four objects, transposed into columns
-      for (int i = 0; i < 4; ++i) {
-        __m128 c[4];
-        for (int k = 0; k < 4; ++k) c[k] = _mm_loadu_ps(o[k].row(i));
-        _MM_TRANSPOSE4_PS(c[0], c[1], c[2], c[3]);
-        for (int j = 0; j < 4; ++j) sum = S::add(sum, S::mul(c[j], c[j]));
-      }
+      for (int i = 0; i < 4; ++i)
+        for (int g = 0; g < G; ++g) {
+          __m128 c[4];
+          for (int k = 0; k < 4; ++k) {
+            c[k] = _mm_loadu_ps(o[4 * g + k].row(i));
+            // Whole rows in registers: left to itself the compiler rebuilds
+            // each column from four single-element loads and inserts.
+            asm("" : "+x"(c[k]));
+          }
+          _MM_TRANSPOSE4_PS(c[0], c[1], c[2], c[3]);
+          for (int j = 0; j < 4; ++j) sum[g] = S::add(sum[g], S::mul(c[j], c[j]));
+        }
     } else unroll<N * N>([&](auto e) {
       constexpr int i = e / N, j = e % N;
-      typename S::V v;
-      if constexpr (S::L == 4) v = S::gather(o[0].at(i, j), o[1].at(i, j), o[2].at(i, j), o[3].at(i, j));
-      else v = S::gather(o[0].at(i, j), o[1].at(i, j));
-      sum = S::add(sum, S::mul(v, v));
+      for (int g = 0; g < G; ++g) {
+        const auto* q = &o[g * S::L];
+        typename S::V v;
+        if constexpr (S::L == 4) v = S::gather(q[0].at(i, j), q[1].at(i, j), q[2].at(i, j), q[3].at(i, j));
+        else v = S::gather(q[0].at(i, j), q[1].at(i, j));
+        sum[g] = S::add(sum[g], S::mul(v, v));
+      }
     });
-    alignas(16) T root[S::L];
-    if constexpr (S::L == 4) _mm_store_ps(root, _mm_sqrt_ps(sum));
-    else _mm_store_pd(root, _mm_sqrt_pd(sum));
-    for (int k = 0; k < S::L; ++k) d.object(n + k).at(0, 0) = root[k];
+    alignas(16) T root[K];
+    for (int g = 0; g < G; ++g) {
+      if constexpr (S::L == 4) _mm_store_ps(root + 4 * g, _mm_sqrt_ps(sum[g]));
+      else _mm_store_pd(root + 2 * g, _mm_sqrt_pd(sum[g]));
+    }
+    for (int k = 0; k < K; ++k) d.object(n + k).at(0, 0) = root[k];
   }
   return n;
 }
@@ -184,7 +198,7 @@ QelStatus frobKernel(A a, D d, int width, int height, int count) {
     int n = 0;
     if constexpr (std::is_same_v<decltype(w), decltype(h)> && !std::is_same_v<decltype(w), int>)
       if constexpr (isContiguousKernel<typename A::Object> && decltype(w)::value <= 5)
-        n = frobGroups<decltype(w)::value>(a, d, count);
+        n = frobGroups<decltype(w)::value, 1>(a, d, frobGroups<decltype(w)::value, 2>(a, d, 0, count), count);
     for (; n < count; ++n) d.object(n).at(0, 0) = ElemOf<D>(std::sqrt(sumOfSquares(a.object(n), w, h)));
   });
   return qelStatusOk;
