@@ -246,13 +246,24 @@ inline void lanesToRows(const typename Lanes<T>::V (&cols)[N],
 }
 
 // Four packed 3-element Qel32f vectors (12 bytes apart) as three registers,
-// element k of vector l in lane l of register k, and back.
-inline void unpack3(const float* p, __m128 (&v)[3]) {
-  const __m128 r0 = _mm_loadu_ps(p), r1 = _mm_loadu_ps(p + 4), r2 = _mm_loadu_ps(p + 8);
+// element k of vector l in lane l of register k, and back. The register forms
+// take the run as it was loaded (or as it came out of element-wise products).
+inline void unpack3(const __m128 (&r)[3], __m128 (&v)[3]) {
+  const __m128 r0 = r[0], r1 = r[1], r2 = r[2];
   v[0] = _mm_shuffle_ps(r0, _mm_shuffle_ps(r1, r2, _MM_SHUFFLE(1, 1, 2, 2)), _MM_SHUFFLE(2, 0, 3, 0));
   v[1] = _mm_shuffle_ps(_mm_shuffle_ps(r0, r1, _MM_SHUFFLE(0, 0, 1, 1)),
                         _mm_shuffle_ps(r1, r2, _MM_SHUFFLE(2, 2, 3, 3)), _MM_SHUFFLE(2, 0, 2, 0));
   v[2] = _mm_shuffle_ps(_mm_shuffle_ps(r0, r1, _MM_SHUFFLE(1, 1, 2, 2)), r2, _MM_SHUFFLE(3, 0, 2, 0));
+}
+inline void unpack3(const float* p, __m128 (&v)[3]) {
+  const __m128 r[3] = {_mm_loadu_ps(p), _mm_loadu_ps(p + 4), _mm_loadu_ps(p + 8)};
+  unpack3(r, v);
+}
+// Two packed 3-element Qel64f vectors (24 bytes apart): a0 a1 | a2 b0 | b1 b2.
+inline void unpack3(const __m128d (&r)[3], __m128d (&v)[3]) {
+  v[0] = _mm_shuffle_pd(r[0], r[1], 2);  // a0 b0
+  v[1] = _mm_shuffle_pd(r[0], r[2], 1);  // a1 b1
+  v[2] = _mm_shuffle_pd(r[1], r[2], 2);  // a2 b2
 }
 inline void pack3(float* p, const __m128 (&o)[3]) {
   const auto even = [](__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)); };

@@ -179,8 +179,25 @@ int laneGroups(const A& a, const B& b, const D& d, int first, int count) {
   A ag = a.from(first);
   B bg = b.from(first);
   D dg = d.from(first);
-  for (; count - n >= L; n += L, ag = ag.from(L), bg = bg.from(L), dg = dg.from(L)) {
-    V ca[N], t[N];
+  // Packed vectors of three: the group is three registers as it lies, the terms
+  // are formed there and only the products are sorted into lanes.
+  bool packed3 = false;
+  if constexpr (N == 3 && A::Object::contiguous && (Root || (B::isArray && B::Object::contiguous))) {
+    if constexpr (requires { ag.s0, bg.s0; })
+      packed3 = ag.s0 == 3 * int32_t(sizeof(T)) && (Root || bg.s0 == 3 * int32_t(sizeof(T)));
+  }
+  auto packedTerms = [&](auto& t) {
+    const T* pa = &ag.object(0).at(0, 0);
+    const T* pb = &bg.object(0).at(0, 0);
+    V p[3];
+    unroll<3>([&](auto r) {
+      const V x = S::template load<L>(pa + r * L);
+      p[r] = S::mul(x, Root ? x : S::template load<L>(pb + r * L));
+    });
+    unpack3(p, t);
+  };
+  auto columnTerms = [&](V (&t)[N]) {
+    V ca[N];
     groupColumns<T, N>(ag, ca);
     if constexpr (Root) {
       unroll<N>([&](auto k) { t[k] = S::mul(ca[k], ca[k]); });  // a length: b is a
@@ -190,6 +207,15 @@ int laneGroups(const A& a, const B& b, const D& d, int first, int count) {
       unroll<N>([&](auto k) { t[k] = S::mul(ca[k], cb[k]); });
     } else {
       unroll<N>([&](auto k) { t[k] = S::mul(ca[k], held[k]); });
+    }
+  };
+  for (; count - n >= L; n += L, ag = ag.from(L), bg = bg.from(L), dg = dg.from(L)) {
+    V t[N];
+    if constexpr (N == 3) {
+      if (packed3) packedTerms(t);
+      else columnTerms(t);
+    } else {
+      columnTerms(t);
     }
     V s = sumTree<tr>(t, S::zero(), [](V x, V y) { return S::add(x, y); });
     if constexpr (Root) s = S::sqrt(s);
