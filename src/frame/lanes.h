@@ -265,6 +265,15 @@ inline void unpack3(const __m128d (&r)[3], __m128d (&v)[3]) {
   v[1] = _mm_shuffle_pd(r[0], r[2], 1);  // a1 b1
   v[2] = _mm_shuffle_pd(r[1], r[2], 2);  // a2 b2
 }
+inline void unpack3(const double* p, __m128d (&v)[3]) {
+  const __m128d r[3] = {_mm_loadu_pd(p), _mm_loadu_pd(p + 2), _mm_loadu_pd(p + 4)};
+  unpack3(r, v);
+}
+inline void pack3(double* p, const __m128d (&o)[3]) {
+  _mm_storeu_pd(p, _mm_unpacklo_pd(o[0], o[1]));
+  _mm_storeu_pd(p + 2, _mm_shuffle_pd(o[2], o[0], 2));
+  _mm_storeu_pd(p + 4, _mm_unpackhi_pd(o[1], o[2]));
+}
 inline void pack3(float* p, const __m128 (&o)[3]) {
   const auto even = [](__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)); };
   _mm_storeu_ps(p, even(_mm_shuffle_ps(o[0], o[1], _MM_SHUFFLE(0, 0, 0, 0)),

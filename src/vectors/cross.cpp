@@ -64,6 +64,29 @@ inline __m128 lanesOf(const O& o) {
   else return Lanes<float>::load<3>(&o.at(0, 0));
 }
 
+// The objects from n on, one at a time: Qel32f in lanes, each against the
+// other rotated; Qel64f component by component after reading all six.
+template <class A, class B, class D>
+void floatTail(A a, B b, D d, int n, int count) {
+  auto ha = held(a);
+  auto hb = held(b);
+  __m128 sa = _mm_setzero_ps(), sb = sa;  // a single operand, in lanes once
+  if constexpr (!A::isArray) sa = lanesOf<float>(ha.object(0));
+  if constexpr (!B::isArray) sb = lanesOf<float>(hb.object(0));
+  for (; n < count; ++n, ha = ha.from(1), hb = hb.from(1), d = d.from(1))
+    Lanes<float>::store<3>(&d.object(0).at(0, 0), crossLanes(A::isArray ? lanesOf<float>(ha.object(0)) : sa,
+                                                             B::isArray ? lanesOf<float>(hb.object(0)) : sb));
+}
+template <class A, class B, class D>
+void doubleTail(A a, B b, D d, int n, int count) {
+  auto ha = held(a);
+  auto hb = held(b);
+  for (; n < count; ++n, ha = ha.from(1), hb = hb.from(1), d = d.from(1)) {
+    const Three<double> x = readThree<double>(ha.object(0)), y = readThree<double>(hb.object(0));
+    stepwise<double>(x, y, d.object(0));
+  }
+}
+
 // Arrays step one object at a time (a short distance, not n times the stride).
 template <class A, class B, class D>
 QelStatus crossKernel(A a, B b, D d, int count) {
@@ -77,35 +100,27 @@ QelStatus crossKernel(A a, B b, D d, int count) {
       for (int n = 0; n < count; ++n, ha = ha.from(1), hb = hb.from(1), d = d.from(1))
         stepwise<T>(ha.object(0), hb.object(0), d.object(0));
     }
-  } else if constexpr (std::is_same_v<T, float>) {
+  } else {
     int n = 0;
     if constexpr (A::isArray && B::isArray && requires { a.s0, b.s0, d.s0; }) {
-      // Packed arrays: four objects a step, element k of object l in lane l.
-      if (a.s0 == 12 && b.s0 == 12 && d.s0 == 12)
-        for (; count - n >= 4; n += 4, a = a.from(4), b = b.from(4), d = d.from(4)) {
-          __m128 x[3], y[3], r[3];
+      // Packed arrays: four Qel32f or two Qel64f objects a step, element k of
+      // object l in lane l.
+      using S = Lanes<T>;
+      constexpr int32_t packed = 3 * int32_t(sizeof(T));
+      if (a.s0 == packed && b.s0 == packed && d.s0 == packed)
+        for (; count - n >= S::L; n += S::L, a = a.from(S::L), b = b.from(S::L), d = d.from(S::L)) {
+          typename S::V x[3], y[3], r[3];
           unpack3(a.base, x), unpack3(b.base, y);
           unroll<3>([&](auto i) {
-            r[i] = _mm_sub_ps(_mm_mul_ps(x[(i + 1) % 3], y[(i + 2) % 3]), _mm_mul_ps(x[(i + 2) % 3], y[(i + 1) % 3]));
+            r[i] = S::sub(S::mul(x[(i + 1) % 3], y[(i + 2) % 3]), S::mul(x[(i + 2) % 3], y[(i + 1) % 3]));
           });
           pack3(d.base, r);
         }
     }
-    auto ha = held(a);
-    auto hb = held(b);
-    __m128 sa = _mm_setzero_ps(), sb = sa;  // a single operand, in lanes once
-    if constexpr (!A::isArray) sa = lanesOf<T>(ha.object(0));
-    if constexpr (!B::isArray) sb = lanesOf<T>(hb.object(0));
-    for (; n < count; ++n, ha = ha.from(1), hb = hb.from(1), d = d.from(1))
-      Lanes<float>::store<3>(&d.object(0).at(0, 0), crossLanes(A::isArray ? lanesOf<T>(ha.object(0)) : sa,
-                                                               B::isArray ? lanesOf<T>(hb.object(0)) : sb));
-  } else {
-    auto ha = held(a);
-    auto hb = held(b);
-    for (int n = 0; n < count; ++n, ha = ha.from(1), hb = hb.from(1), d = d.from(1)) {
-      const Three<T> x = readThree<T>(ha.object(0)), y = readThree<T>(hb.object(0));
-      stepwise<T>(x, y, d.object(0));
-    }
+    if constexpr (std::is_same_v<T, float>)
+      floatTail(a, b, d, n, count);
+    else
+      doubleTail(a, b, d, n, count);
   }
   return qelStatusOk;
 }
