@@ -6,6 +6,8 @@
 #include "../frame/lanes.h"
 #include "../frame/operands.h"
 
+#include <cstdint>
+
 namespace {
 using namespace qel;
 
@@ -84,6 +86,14 @@ QelStatus scaledSumKernel(A a, B b, D d, int len, int count, Op op) {
   if constexpr (!A::isArray && !B::isArray && D::Object::contiguous) {
     oneVector(&a.object(0).at(0, 0), &b.object(0).at(0, 0), &d.object(0).at(0, 0), len, op);
     return qelStatusOk;
+  }
+  if constexpr (A::isArray && B::isArray && D::Object::contiguous && requires { a.s0, b.s0, d.s0; }) {
+    // Packed arrays, vector after vector without a gap, are one long vector.
+    const int64_t packed = int64_t(len) * int64_t(sizeof(T));
+    if (a.s0 == packed && b.s0 == packed && d.s0 == packed && int64_t(len) * count <= INT32_MAX) {
+      oneVector(&a.object(0).at(0, 0), &b.object(0).at(0, 0), &d.object(0).at(0, 0), len * count, op);
+      return qelStatusOk;
+    }
   }
   switch (len) {
     case 3: straightLine<3, T>(a, b, d, count, op); return qelStatusOk;
