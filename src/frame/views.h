@@ -131,6 +131,7 @@ struct StridedArray {
   using Contiguous = StridedArray<T, true>;
   static constexpr bool hasStride2 = true;
   static constexpr bool isArray = true;
+  static constexpr bool standardArray = true;
 
   T* base;
   int32_t s0, s1, s2;
@@ -145,6 +146,36 @@ struct StridedArray {
   bool shiftsOk() const { return true; }
   bool pointerOk() const { return base != nullptr; }
 };
+
+// A standard array known to hold packed Rows x Cols objects (rows back to
+// back, objects back to back): the same view with both distances constants of
+// the code, so that every row of a group of objects is a fixed offset from the
+// group's base.
+template <class T, int Rows, int Cols>
+struct PackedArray : StridedArray<T, true> {
+  using Base = StridedArray<T, true>;
+  using Object = typename Base::Object;
+  static constexpr int32_t row = Cols * elemSize<T>, obj = Rows * row;
+  Object object(int n) const { return {byteAt(this->base, mul32(n, obj)), row, elemSize<T>}; }
+  PackedArray from(int first) const { return {{byteAt(this->base, mul32(first, obj)), obj, row, elemSize<T>}}; }
+};
+
+template <class V>
+struct IsContiguousStrided : std::false_type {};
+template <class T>
+struct IsContiguousStrided<StridedArray<T, true>> : std::true_type {};
+
+// Calls f with the array as a PackedArray when its objects are packed Rows x
+// Cols blocks, as it is otherwise. Two bodies of f are compiled: kept to the
+// small orders.
+template <int Rows, int Cols, class V, class F>
+inline decltype(auto) withPackedDistances(const V& v, F&& f) {
+  if constexpr (IsContiguousStrided<V>::value) {
+    using P = PackedArray<std::remove_pointer_t<decltype(v.base)>, Rows, Cols>;
+    if (v.s1 == P::row && v.s0 == P::obj) return f(P{{v.base, v.s0, v.s1, v.s2}});
+  }
+  return f(v);
+}
 
 // _L array: object n at list[n] + shift, each a standard object.
 template <class T, bool Contig = false>
@@ -278,35 +309,36 @@ struct ConstList {
 struct Extent {
   int rows, cols;
 };
+template <class V>
+constexpr bool isStandardArray = requires { V::standardArray; };
+
 template <class A, class B>
-inline bool disjointObjects(const A&, Extent, const B&, Extent, int) {
-  return false;
-}
-template <class T1, bool C1, class T2, bool C2>
-inline bool disjointObjects(const StridedArray<T1, C1>& a, Extent ea, const StridedArray<T2, C2>& b, Extent eb,
-                            int count) {
-  auto span = [&](const auto& v, Extent e) {
-    return int64_t(count - 1) * v.s0 + int64_t(e.rows - 1) * v.s1 + int64_t(e.cols - 1) * v.s2 +
-           int64_t(sizeof(*v.base));
-  };
-  const auto pa = int64_t(reinterpret_cast<uintptr_t>(a.base));
-  const auto pb = int64_t(reinterpret_cast<uintptr_t>(b.base));
-  // Spans past 32 bits wrap their distances: treat them as meeting.
-  const int64_t sa = span(a, ea), sb = span(b, eb);
-  if (sa > INT32_MAX || sb > INT32_MAX) return false;
-  return pa + sa <= pb || pb + sb <= pa;
+inline bool disjointObjects(const A& a, Extent ea, const B& b, Extent eb, int count) {
+  if constexpr (!isStandardArray<A> || !isStandardArray<B>) {
+    return false;
+  } else {
+    auto span = [&](const auto& v, Extent e) {
+      return int64_t(count - 1) * v.s0 + int64_t(e.rows - 1) * v.s1 + int64_t(e.cols - 1) * v.s2 +
+             int64_t(sizeof(*v.base));
+    };
+    const auto pa = int64_t(reinterpret_cast<uintptr_t>(a.base));
+    const auto pb = int64_t(reinterpret_cast<uintptr_t>(b.base));
+    // Spans past 32 bits wrap their distances: treat them as meeting.
+    const int64_t sa = span(a, ea), sb = span(b, eb);
+    if (sa > INT32_MAX || sb > INT32_MAX) return false;
+    return pa + sa <= pb || pb + sb <= pa;
+  }
 }
 template <class A, class B>
-inline bool independentObjects(const A&, Extent, const B&, Extent, int) {
-  return false;
-}
-template <class T1, bool C1, class T2, bool C2>
-inline bool independentObjects(const StridedArray<T1, C1>& a, Extent ea, const StridedArray<T2, C2>& b, Extent eb,
-                               int count) {
-  if (reinterpret_cast<uintptr_t>(a.base) == reinterpret_cast<uintptr_t>(b.base) && a.s0 == b.s0 &&
-      a.s1 == b.s1 && a.s2 == b.s2)
-    return true;
-  return disjointObjects(a, ea, b, eb, count);
+inline bool independentObjects(const A& a, Extent ea, const B& b, Extent eb, int count) {
+  if constexpr (!isStandardArray<A> || !isStandardArray<B>) {
+    return false;
+  } else {
+    if (reinterpret_cast<uintptr_t>(a.base) == reinterpret_cast<uintptr_t>(b.base) && a.s0 == b.s0 &&
+        a.s1 == b.s1 && a.s2 == b.s2)
+      return true;
+    return disjointObjects(a, ea, b, eb, count);
+  }
 }
 
 // Description-wide questions over several operands.

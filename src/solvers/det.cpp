@@ -105,7 +105,7 @@ Num closedDet(const Num (&a)[N][N]) {
 // An array at a closed order: L objects at a time in lanes when the objects
 // are a standard array, the rest one by one.
 template <int N, class S, class R>
-[[gnu::flatten]] void closedDetObjects(const S& src, const R& dst, int count) {
+[[gnu::flatten]] void closedDetLanes(const S& src, const R& dst, int count) {
   using T = ElemT<typename R::Object>;
   constexpr int G = Lanes<T>::L;
   int n = 0;
@@ -125,6 +125,14 @@ template <int N, class S, class R>
       for (int j = 0; j < N; ++j) a[i][j] = s.at(i, j);
     dst.object(n).at(0, 0) = closedDet<N>(a);
   }
+}
+
+template <int N, class S, class R>
+void closedDetObjects(const S& src, const R& dst, int count) {
+  if constexpr (N <= 4)
+    withPackedDistances<N, N>(src, [&](const auto& s) { closedDetLanes<N>(s, dst, count); });
+  else
+    closedDetLanes<N>(src, dst, count);
 }
 
 // ---------------------------------------------------------------- general form

@@ -223,7 +223,7 @@ QelStatus invScalar(const S& s, const D& d, ElemT<D> tol) {
 // source; a group with any determinant below the tolerance runs again object
 // by object, which stops where a loop of single objects stops.
 template <int N, bool Order64, class S, class D>
-[[gnu::flatten]] QelStatus invScalarObjects(const S& src, const D& dst, int count, ElemT<typename D::Object> tol) {
+[[gnu::flatten]] QelStatus invScalarLanes(const S& src, const D& dst, int count, ElemT<typename D::Object> tol) {
   using T = ElemT<typename D::Object>;
   using P = Packed<T>;
   constexpr int G = Lanes<T>::L;
@@ -247,6 +247,16 @@ template <int N, bool Order64, class S, class D>
   for (; n < count; ++n)
     if (QelStatus st = invScalar<N, Order64>(src.object(n), dst.object(n), tol)) return st;
   return qelStatusOk;
+}
+
+template <int N, bool Order64, class S, class D>
+QelStatus invScalarObjects(const S& src, const D& dst, int count, ElemT<typename D::Object> tol) {
+  if constexpr (N <= 4)
+    return withPackedDistances<N, N>(src, [&](const auto& s) {
+      return withPackedDistances<N, N>(dst, [&](const auto& d) { return invScalarLanes<N, Order64>(s, d, count, tol); });
+    });
+  else
+    return invScalarLanes<N, Order64>(src, dst, count, tol);
 }
 
 // ---------------------------------------------------------------- Qel32f vector forms
