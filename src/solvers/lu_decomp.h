@@ -340,10 +340,17 @@ QelStatus luObjects(S src, I index, D dst, int size, int count) {
         using T = std::remove_const_t<typename D::Object::Elem>;
         constexpr int Q = std::is_same_v<T, Qel32f> ? 1 : 3;
         constexpr int G = Q * RowRegs<T, N>::L;
-        for (; n + G <= count; n += G)
-          if (!luLanes<N, Q>(src, index, dst, n))
-            for (int g = 0; g < G; ++g)
-              if (QelStatus st = luFixed<N>(src.object(n + g), index.object(n + g), dst.object(n + g))) return st;
+        // Packed objects: every row a fixed offset from its object.
+        const QelStatus st = withPackedDistances<N, N>(src, [&](const auto& s) -> QelStatus {
+          return withPackedDistances<N, N>(dst, [&](const auto& d) -> QelStatus {
+            for (; n + G <= count; n += G)
+              if (!luLanes<N, Q>(s, index, d, n))
+                for (int g = 0; g < G; ++g)
+                  if (QelStatus e = luFixed<N>(s.object(n + g), index.object(n + g), d.object(n + g))) return e;
+            return qelStatusOk;
+          });
+        });
+        if (st) return st;
       }
       for (; n + 1 < count; n += 2)
         if (QelStatus st = luFixedPair<N>(src, index, dst, n)) return st;
