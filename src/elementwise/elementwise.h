@@ -341,10 +341,6 @@ void unrolledGeneric(A a, B b, D d, int count) {
 // one long run of elements, against another such run or one constant: the
 // whole call is a single forward pass in vector units. Every element still
 // gets its one operation.
-template <class V>
-constexpr bool isStridedContiguous =
-    std::is_same_v<V, StridedArray<const typename V::Object::Elem, true>> ||
-    std::is_same_v<V, StridedArray<typename V::Object::Elem, true>>;
 
 template <class V>
 inline bool isDense(const V& v, int width, int height) {

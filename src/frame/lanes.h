@@ -245,6 +245,17 @@ inline void lanesToRows(const typename Lanes<T>::V (&cols)[N],
   });
 }
 
+// Three registers' worth of consecutive elements (twelve Qel32f, six Qel64f):
+// four or two packed 3-element vectors as they lie.
+template <class T>
+inline void loadRun3(const T* p, typename Lanes<T>::V (&r)[3]) {
+  for (int i = 0; i < 3; ++i) r[i] = Lanes<T>::template load<Lanes<T>::L>(p + i * Lanes<T>::L);
+}
+template <class T>
+inline void storeRun3(T* p, const typename Lanes<T>::V (&r)[3]) {
+  for (int i = 0; i < 3; ++i) Lanes<T>::template store<Lanes<T>::L>(p + i * Lanes<T>::L, r[i]);
+}
+
 // Four packed 3-element Qel32f vectors (12 bytes apart) as three registers,
 // element k of vector l in lane l of register k, and back. The register forms
 // take the run as it was loaded (or as it came out of element-wise products).
@@ -256,7 +267,8 @@ inline void unpack3(const __m128 (&r)[3], __m128 (&v)[3]) {
   v[2] = _mm_shuffle_ps(_mm_shuffle_ps(r0, r1, _MM_SHUFFLE(1, 1, 2, 2)), r2, _MM_SHUFFLE(3, 0, 2, 0));
 }
 inline void unpack3(const float* p, __m128 (&v)[3]) {
-  const __m128 r[3] = {_mm_loadu_ps(p), _mm_loadu_ps(p + 4), _mm_loadu_ps(p + 8)};
+  __m128 r[3];
+  loadRun3(p, r);
   unpack3(r, v);
 }
 // Two packed 3-element Qel64f vectors (24 bytes apart): a0 a1 | a2 b0 | b1 b2.
@@ -266,7 +278,8 @@ inline void unpack3(const __m128d (&r)[3], __m128d (&v)[3]) {
   v[2] = _mm_shuffle_pd(r[1], r[2], 2);  // a2 b2
 }
 inline void unpack3(const double* p, __m128d (&v)[3]) {
-  const __m128d r[3] = {_mm_loadu_pd(p), _mm_loadu_pd(p + 2), _mm_loadu_pd(p + 4)};
+  __m128d r[3];
+  loadRun3(p, r);
   unpack3(r, v);
 }
 inline void pack3(double* p, const __m128d (&o)[3]) {
@@ -284,7 +297,6 @@ inline void pack3(float* p, const __m128 (&o)[3]) {
                             _mm_shuffle_ps(o[1], o[2], _MM_SHUFFLE(3, 3, 3, 3))));
 }
 
-
 // Four packed 3-element Qel32f vectors times one 3 by 3 matrix, the vectors
 // left as they lie: register r of the run holds elements 4r .. 4r + 3, so lane
 // l carries element (4r + l) mod 3 of its own vector. Each lane's three terms
@@ -293,19 +305,21 @@ inline void pack3(float* p, const __m128 (&o)[3]) {
 // and the results land in the order they are stored in.
 struct Quad3Matrix {
   __m128 c[3][3];  // c[r][k]: the coefficient of term k in each lane of register r
+  // Register r of a run: lane l takes f of the element index it carries.
+  template <class F>
+  static __m128 inRunOrder(int r, F f) {
+    return _mm_setr_ps(f((4 * r) % 3), f((4 * r + 1) % 3), f((4 * r + 2) % 3), f((4 * r + 3) % 3));
+  }
   // coef(i, k): the coefficient of x(k) in result element i.
   template <class Coef>
   explicit Quad3Matrix(Coef coef) {
     for (int r = 0; r < 3; ++r)
-      for (int k = 0; k < 3; ++k)
-        c[r][k] = _mm_setr_ps(coef((4 * r) % 3, k), coef((4 * r + 1) % 3, k), coef((4 * r + 2) % 3, k),
-                              coef((4 * r + 3) % 3, k));
+      for (int k = 0; k < 3; ++k) c[r][k] = inRunOrder(r, [&](int i) { return coef(i, k); });
   }
   // One vector z spread the way the run lies, to be added lane by lane.
   template <class Elem>
   static void spread(Elem z, __m128 (&out)[3]) {
-    for (int r = 0; r < 3; ++r)
-      out[r] = _mm_setr_ps(z((4 * r) % 3), z((4 * r + 1) % 3), z((4 * r + 2) % 3), z((4 * r + 3) % 3));
+    for (int r = 0; r < 3; ++r) out[r] = inRunOrder(r, z);
   }
   // y[r] = ((c0 x0 + c1 x1) + c2 x2) lane by lane, x(k) of the lane's own vector.
   void apply(const __m128 (&x)[3], __m128 (&y)[3]) const {

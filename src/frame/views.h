@@ -160,21 +160,31 @@ struct PackedArray : StridedArray<T, true> {
   PackedArray from(int first) const { return {{byteAt(this->base, mul32(first, obj)), obj, row, elemSize<T>}}; }
 };
 
+// A standard array with unit element stride, exactly (not a PackedArray).
 template <class V>
-struct IsContiguousStrided : std::false_type {};
+struct IsStridedContiguous : std::false_type {};
 template <class T>
-struct IsContiguousStrided<StridedArray<T, true>> : std::true_type {};
+struct IsStridedContiguous<StridedArray<T, true>> : std::true_type {};
+template <class V>
+constexpr bool isStridedContiguous = IsStridedContiguous<V>::value;
 
-// Calls f with the array as a PackedArray when its objects are packed Rows x
-// Cols blocks, as it is otherwise. Two bodies of f are compiled: kept to the
-// small orders.
-template <int Rows, int Cols, class V, class F>
-inline decltype(auto) withPackedDistances(const V& v, F&& f) {
-  if constexpr (IsContiguousStrided<V>::value) {
+// Calls f(views...) with each standard array whose objects are packed Rows x
+// Cols blocks as a PackedArray, every other view as it is. A body of f is
+// compiled for each combination: kept to the small orders.
+template <int Rows, int Cols, class F>
+inline decltype(auto) withPackedDistances(F&& f) {
+  return f();
+}
+template <int Rows, int Cols, class F, class V, class... Rest>
+inline decltype(auto) withPackedDistances(F&& f, const V& v, const Rest&... rest) {
+  auto next = [&](const auto& view) {
+    return withPackedDistances<Rows, Cols>([&](const auto&... others) { return f(view, others...); }, rest...);
+  };
+  if constexpr (isStridedContiguous<V>) {
     using P = PackedArray<std::remove_pointer_t<decltype(v.base)>, Rows, Cols>;
-    if (v.s1 == P::row && v.s0 == P::obj) return f(P{{v.base, v.s0, v.s1, v.s2}});
+    if (v.s1 == P::row && v.s0 == P::obj) return next(P{{v.base, v.s0, v.s1, v.s2}});
   }
-  return f(v);
+  return next(v);
 }
 
 // _L array: object n at list[n] + shift, each a standard object.

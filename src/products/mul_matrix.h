@@ -287,10 +287,10 @@ inline int packedRowQuads(const A& a, const B& b, const D& d, int count) {
   const int groups = count / 4;
   // Four objects are twelve rows: three steps of four rows.
   for (int g = 0; g < groups * 3; ++g, p += 12, q += 12) {
-    const __m128 x[3] = {_mm_loadu_ps(p), _mm_loadu_ps(p + 4), _mm_loadu_ps(p + 8)};
-    __m128 y[3];
+    __m128 x[3], y[3];
+    loadRun3(p, x);
     c.apply(x, y);
-    unroll<3>([&](auto r) { _mm_storeu_ps(q + 4 * r, y[r]); });
+    storeRun3(q, y);
   }
   return groups * 4;
 }

@@ -212,18 +212,12 @@ int packedQuads3(const A& a, const X& x, const Z& z, const D& d, int count) {
     if constexpr (addZ && !Z::isArray) Quad3Matrix::spread([&](int i) { return z.object(0).at(0, i); }, zs);
     const int quads = count & ~3;
     for (int n = 0; n < quads; n += 4) {
-      const float* p = x.object(n).row(0);
-      const __m128 v[3] = {_mm_loadu_ps(p), _mm_loadu_ps(p + 4), _mm_loadu_ps(p + 8)};
-      __m128 y[3];
+      __m128 v[3], y[3];
+      loadRun3(x.object(n).row(0), v);
       c.apply(v, y);
-      if constexpr (Z::isArray) {
-        const float* q = z.object(n).row(0);
-        unroll<3>([&](auto r) { y[r] = _mm_add_ps(y[r], _mm_loadu_ps(q + 4 * r)); });
-      } else if constexpr (addZ) {
-        unroll<3>([&](auto r) { y[r] = _mm_add_ps(y[r], zs[r]); });
-      }
-      float* o = d.object(n).row(0);
-      unroll<3>([&](auto r) { _mm_storeu_ps(o + 4 * r, y[r]); });
+      if constexpr (Z::isArray) loadRun3(z.object(n).row(0), zs);  // an array z: this step's run
+      if constexpr (addZ) unroll<3>([&](auto r) { y[r] = _mm_add_ps(y[r], zs[r]); });
+      storeRun3(d.object(n).row(0), y);
     }
     return quads;
   } else {

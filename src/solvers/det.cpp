@@ -130,7 +130,7 @@ template <int N, class S, class R>
 template <int N, class S, class R>
 void closedDetObjects(const S& src, const R& dst, int count) {
   if constexpr (N <= 4)
-    withPackedDistances<N, N>(src, [&](const auto& s) { closedDetLanes<N>(s, dst, count); });
+    withPackedDistances<N, N>([&](const auto& s) { closedDetLanes<N>(s, dst, count); }, src);
   else
     closedDetLanes<N>(src, dst, count);
 }

@@ -252,9 +252,8 @@ template <int N, bool Order64, class S, class D>
 template <int N, bool Order64, class S, class D>
 QelStatus invScalarObjects(const S& src, const D& dst, int count, ElemT<typename D::Object> tol) {
   if constexpr (N <= 4)
-    return withPackedDistances<N, N>(src, [&](const auto& s) {
-      return withPackedDistances<N, N>(dst, [&](const auto& d) { return invScalarLanes<N, Order64>(s, d, count, tol); });
-    });
+    return withPackedDistances<N, N>(
+        [&](const auto& s, const auto& d) { return invScalarLanes<N, Order64>(s, d, count, tol); }, src, dst);
   else
     return invScalarLanes<N, Order64>(src, dst, count, tol);
 }

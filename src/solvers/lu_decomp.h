@@ -341,15 +341,15 @@ QelStatus luObjects(S src, I index, D dst, int size, int count) {
         constexpr int Q = std::is_same_v<T, Qel32f> ? 1 : 3;
         constexpr int G = Q * RowRegs<T, N>::L;
         // Packed objects: every row a fixed offset from its object.
-        const QelStatus st = withPackedDistances<N, N>(src, [&](const auto& s) -> QelStatus {
-          return withPackedDistances<N, N>(dst, [&](const auto& d) -> QelStatus {
-            for (; n + G <= count; n += G)
-              if (!luLanes<N, Q>(s, index, d, n))
-                for (int g = 0; g < G; ++g)
-                  if (QelStatus e = luFixed<N>(s.object(n + g), index.object(n + g), d.object(n + g))) return e;
-            return qelStatusOk;
-          });
-        });
+        const QelStatus st = withPackedDistances<N, N>(
+            [&](const auto& s, const auto& d) -> QelStatus {
+              for (; n + G <= count; n += G)
+                if (!luLanes<N, Q>(s, index, d, n))
+                  for (int g = 0; g < G; ++g)
+                    if (QelStatus e = luFixed<N>(s.object(n + g), index.object(n + g), d.object(n + g))) return e;
+              return qelStatusOk;
+            },
+            src, dst);
         if (st) return st;
       }
       for (; n + 1 < count; n += 2)

@@ -102,7 +102,7 @@ QelStatus crossKernel(A a, B b, D d, int count) {
     }
   } else {
     int n = 0;
-    if constexpr (A::isArray && B::isArray && requires { a.s0, b.s0, d.s0; }) {
+    if constexpr (isStridedContiguous<A> && isStridedContiguous<B> && isStridedContiguous<D>) {
       // Packed arrays: four Qel32f or two Qel64f objects a step, element k of
       // object l in lane l.
       using S = Lanes<T>;

@@ -182,19 +182,18 @@ int laneGroups(const A& a, const B& b, const D& d, int first, int count) {
   // Packed vectors of three: the group is three registers as it lies, the terms
   // are formed there and only the products are sorted into lanes.
   bool packed3 = false;
-  if constexpr (N == 3 && A::Object::contiguous && (Root || (B::isArray && B::Object::contiguous))) {
-    if constexpr (requires { ag.s0, bg.s0; })
-      packed3 = ag.s0 == 3 * int32_t(sizeof(T)) && (Root || bg.s0 == 3 * int32_t(sizeof(T)));
-  }
+  if constexpr (N == 3 && isStridedContiguous<A> && isStridedContiguous<B>)
+    packed3 = ag.s0 == 3 * int32_t(sizeof(T)) && bg.s0 == 3 * int32_t(sizeof(T));
   auto packedTerms = [&](auto& t) {
-    const T* pa = &ag.object(0).at(0, 0);
-    const T* pb = &bg.object(0).at(0, 0);
-    V p[3];
-    unroll<3>([&](auto r) {
-      const V x = S::template load<L>(pa + r * L);
-      p[r] = S::mul(x, Root ? x : S::template load<L>(pb + r * L));
-    });
-    unpack3(p, t);
+    V x[3], y[3];
+    loadRun3(&ag.object(0).at(0, 0), x);
+    if constexpr (Root) {
+      unroll<3>([&](auto r) { y[r] = S::mul(x[r], x[r]); });  // a length: b is a
+    } else {
+      loadRun3(&bg.object(0).at(0, 0), y);
+      unroll<3>([&](auto r) { y[r] = S::mul(x[r], y[r]); });
+    }
+    unpack3(y, t);
   };
   auto columnTerms = [&](V (&t)[N]) {
     V ca[N];

@@ -87,7 +87,7 @@ QelStatus scaledSumKernel(A a, B b, D d, int len, int count, Op op) {
     oneVector(&a.object(0).at(0, 0), &b.object(0).at(0, 0), &d.object(0).at(0, 0), len, op);
     return qelStatusOk;
   }
-  if constexpr (A::isArray && B::isArray && D::Object::contiguous && requires { a.s0, b.s0, d.s0; }) {
+  if constexpr (isStridedContiguous<A> && isStridedContiguous<B> && isStridedContiguous<D>) {
     // Packed arrays, vector after vector without a gap, are one long vector.
     const int64_t packed = int64_t(len) * int64_t(sizeof(T));
     if (a.s0 == packed && b.s0 == packed && d.s0 == packed && int64_t(len) * count <= INT32_MAX) {
